@@ -1,0 +1,19 @@
+# The compile options that every target of this project takes.
+add_library(tarvex_options INTERFACE)
+target_compile_options(tarvex_options INTERFACE -Wall -Wextra -Wshadow
+  $<$<COMPILE_LANGUAGE:C>:-Wpedantic>
+  $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual>
+  $<$<BOOL:${TARVEX_WERROR}>:-Werror>)
+
+if(TARVEX_SANITIZE)
+  # "undefined" leaves the last two out; a report must end the program, or no test would notice.
+  set(sanitizers -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero
+      -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(tarvex_options INTERFACE ${sanitizers})
+  target_compile_definitions(tarvex_options INTERFACE _GLIBCXX_ASSERTIONS)
+  target_link_options(tarvex_options INTERFACE ${sanitizers})
+endif()
+if(TARVEX_COVERAGE)
+  target_compile_options(tarvex_options INTERFACE --coverage)
+  target_link_options(tarvex_options INTERFACE --coverage)
+endif()

@@ -1,0 +1,92 @@
+// The roads from an export to the work: each export clears its out-parameters and takes one.
+//
+//   OnManager   what concerns no single view
+//   OnView      a method of the view that the id names
+//   OnElement   a method of an element of that view, with type test and render rule
+//   OnAdd       a new 3D element: the add sequence, with the defaults of its type
+//   NotBuilt    declared, exported and answered, but without its feature yet
+#pragma once
+
+#include "frame/CWindowManager.h"
+
+template <class... Targets>
+void ClearTo(auto value, Targets*... targets)
+{
+    ((*targets = static_cast<Targets>(value)), ...);
+}
+
+// Ids, types, palettes, draw modes.
+template <class... Targets>
+void ClearToNone(Targets*... targets)
+{
+    ClearTo(-1, targets...);
+}
+
+// Counts, doubles, bytes.
+template <class... Targets>
+void ClearToZero(Targets*... targets)
+{
+    ClearTo(0, targets...);
+}
+
+template <class... Parameters, class... Arguments>
+int32_t OnManager(int32_t (CWindowManager::*method)(Parameters...), Arguments... arguments)
+{
+    CWindowManager* manager = CWindowManager::Instance;
+    return manager ? (manager->*method)(arguments...) : int32_t{STATUS_NULL_ARGUMENT};
+}
+
+template <class View, class Action>
+int32_t OnViewDo(int32_t windowId, Action&& action)
+{
+    CWindowManager* manager = CWindowManager::Instance;
+    return manager ? manager->Call<View>(windowId, std::forward<Action>(action))
+                   : int32_t{STATUS_NULL_ARGUMENT};
+}
+
+template <class View, class... Parameters, class... Arguments>
+int32_t OnView(int32_t windowId, int32_t (View::*method)(Parameters...), Arguments... arguments)
+{
+    return OnViewDo<View>(windowId, [&](View& view) { return (view.*method)(arguments...); });
+}
+
+template <class Class, class... Parameters, class... Arguments>
+int32_t OnElement(int32_t windowId, int32_t elementId, Render render,
+                  int32_t (Class::*method)(Parameters...), Arguments... arguments)
+{
+    return OnViewDo<CWindow>(
+        windowId,
+        [&](CWindow& view)
+        {
+            return view.OnElement<Class>(
+                elementId, render, [&](Class& element) { return (element.*method)(arguments...); });
+        });
+}
+
+template <class Class, class... Geometry>
+int32_t OnAdd(int32_t windowId, int32_t* elementId, Geometry... geometry)
+{
+    return OnViewDo<CWindow>(windowId,
+                             [&](CWindow& view)
+                             {
+                                 const ElementDefaults* defaults =
+                                     CWindowManager::Instance->Defaults.Find(Class::Type);
+                                 return view.AddElement<Class>(defaults, elementId, geometry...);
+                             });
+}
+
+template <class View>
+int32_t NotBuilt(int32_t windowId)
+{
+    return OnViewDo<View>(windowId,
+                          [](View& view) -> int32_t
+                          {
+                              const int32_t status = view.Guard();
+                              return status == STATUS_OK ? int32_t{STATUS_NOT_SUPPORTED} : status;
+                          });
+}
+
+inline int32_t NotBuilt()
+{
+    return CWindowManager::Instance ? STATUS_NOT_SUPPORTED : STATUS_NULL_ARGUMENT;
+}

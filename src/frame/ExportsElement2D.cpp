@@ -1,0 +1,237 @@
+// Exports that work on any chart element, and those of profiles and images in charts.
+#include "Tarvex.h"
+
+#include "frame/CallFrame.h"
+#include "view2d/CWindow2D.h"
+
+int32_t Tarvex_Element2D_GetCount(int32_t windowId, int32_t* count)
+{
+    ClearToZero(count);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_GetIDFromIndex(int32_t windowId, int32_t /*index*/, int32_t* elementId)
+{
+    ClearToNone(elementId);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_GetType(int32_t windowId, int32_t /*elementId*/, int32_t* type)
+{
+    ClearToNone(type);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_HasValidValues(int32_t windowId, int32_t /*elementId*/, uint8_t* valid)
+{
+    ClearToZero(valid);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_GetColor(int32_t windowId, int32_t /*elementId*/, uint8_t* red,
+                                  uint8_t* green, uint8_t* blue)
+{
+    ClearToZero(red, green, blue);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_SetColor(int32_t windowId, int32_t /*elementId*/, uint8_t /*red*/,
+                                  uint8_t /*green*/, uint8_t /*blue*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_GetSize(int32_t windowId, int32_t /*elementId*/, double* size)
+{
+    ClearToZero(size);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_SetSize(int32_t windowId, int32_t /*elementId*/, double /*size*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Show(int32_t windowId, int32_t /*elementId*/, uint8_t /*show*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Remove(int32_t windowId, int32_t /*elementId*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_RemoveAll(int32_t windowId)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Add_ProfileNonUniform_GeneralData(int32_t windowId, const double* /*x*/,
+                                                           const double* /*y*/,
+                                                           const uint8_t* /*valid*/,
+                                                           int32_t /*count*/, int32_t* elementId,
+                                                           const char* /*name*/)
+{
+    ClearToNone(elementId);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Add_ProfileNonUniform_KorData(int32_t windowId, const int16_t* /*x*/,
+                                                       const int16_t* /*z*/, int32_t /*count*/,
+                                                       double /*xScale*/, double /*zScale*/,
+                                                       double /*xOffset*/, double /*zOffset*/,
+                                                       int32_t* elementId, const char* /*name*/)
+{
+    ClearToNone(elementId);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Add_ProfileUniform(int32_t windowId, const int16_t* /*z*/,
+                                            int32_t /*count*/, double /*xSpacing*/,
+                                            double /*zScale*/, double /*xStart*/,
+                                            double /*zOffset*/, int32_t* elementId)
+{
+    ClearToNone(elementId);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileNonUniform_SetValue_GeneralData(
+    int32_t windowId, int32_t /*elementId*/, int32_t /*count*/, const double* /*x*/,
+    const double* /*y*/, const uint8_t* /*valid*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(int32_t windowId, int32_t /*elementId*/,
+                                                            int32_t /*count*/, const int16_t* /*x*/,
+                                                            const int16_t* /*z*/, double /*xScale*/,
+                                                            double /*zScale*/, double /*xOffset*/,
+                                                            double /*zOffset*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileNonUniform_AttachValues_GeneralData(
+    int32_t windowId, int32_t /*elementId*/, int32_t /*count*/, const double* /*x*/,
+    const double* /*y*/, const uint8_t* /*valid*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(
+    int32_t windowId, int32_t /*elementId*/, int32_t /*count*/, const int16_t* /*x*/,
+    const int16_t* /*z*/, double /*xScale*/, double /*zScale*/, double /*xOffset*/,
+    double /*zOffset*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileNonUniform_GetPointCount(int32_t windowId, int32_t /*elementId*/,
+                                                         int32_t* count)
+{
+    ClearToZero(count);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileNonUniform_GetValue(int32_t windowId, int32_t /*elementId*/,
+                                                    double* /*x*/, double* /*y*/,
+                                                    uint8_t* /*valid*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileNonUniform_SetMarkerSize(int32_t windowId, int32_t /*elementId*/,
+                                                         double /*size*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileUniform_SetValue(int32_t windowId, int32_t /*elementId*/,
+                                                 int32_t /*count*/, const int16_t* /*z*/,
+                                                 double /*xSpacing*/, double /*zScale*/,
+                                                 double /*xStart*/, double /*zOffset*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileUniform_GetPointCount(int32_t windowId, int32_t /*elementId*/,
+                                                      int32_t* count)
+{
+    ClearToZero(count);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_ProfileUniform_GetValue(int32_t windowId, int32_t /*elementId*/,
+                                                 double* /*x*/, double* /*y*/, uint8_t* /*valid*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Add_ImageByte(int32_t windowId, const uint8_t* /*pixels*/,
+                                       int32_t /*width*/, int32_t /*height*/, double /*scaleX*/,
+                                       double /*scaleY*/, double /*scaleZ*/, double /*offsetX*/,
+                                       double /*offsetY*/, double /*offsetZ*/, uint32_t /*palette*/,
+                                       int32_t* elementId)
+{
+    ClearToNone(elementId);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Add_ImageShort(int32_t windowId, const int16_t* /*pixels*/,
+                                        int32_t /*width*/, int32_t /*height*/, double /*scaleX*/,
+                                        double /*scaleY*/, double /*scaleZ*/, double /*offsetX*/,
+                                        double /*offsetY*/, double /*offsetZ*/,
+                                        uint32_t /*palette*/, int32_t* elementId)
+{
+    ClearToNone(elementId);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Image_SetValueByte(int32_t windowId, int32_t /*elementId*/,
+                                            const uint8_t* /*pixels*/, int32_t /*width*/,
+                                            int32_t /*height*/, double /*scaleX*/,
+                                            double /*scaleY*/, double /*scaleZ*/,
+                                            double /*offsetX*/, double /*offsetY*/,
+                                            double /*offsetZ*/, uint32_t /*palette*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Image_SetValueShort(int32_t windowId, int32_t /*elementId*/,
+                                             const int16_t* /*pixels*/, int32_t /*width*/,
+                                             int32_t /*height*/, double /*scaleX*/,
+                                             double /*scaleY*/, double /*scaleZ*/,
+                                             double /*offsetX*/, double /*offsetY*/,
+                                             double /*offsetZ*/, uint32_t /*palette*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Image_GetImageSize(int32_t windowId, int32_t /*elementId*/, int32_t* width,
+                                            int32_t* height)
+{
+    ClearToZero(width, height);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_Image_GetValue(int32_t windowId, int32_t /*elementId*/,
+                                        uint8_t* /*pixels*/, double* scaleX, double* scaleY,
+                                        double* scaleZ, double* offsetX, double* offsetY,
+                                        double* offsetZ)
+{
+    ClearToZero(scaleX, scaleY, scaleZ, offsetX, offsetY, offsetZ);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_GetPalette_Image(int32_t windowId, int32_t /*elementId*/, int32_t* palette)
+{
+    ClearToNone(palette);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+int32_t Tarvex_Element2D_SetPalette_Image(int32_t windowId, int32_t /*elementId*/,
+                                          uint32_t /*palette*/)
+{
+    return NotBuilt<CWindow2D>(windowId);
+}

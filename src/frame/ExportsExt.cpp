@@ -1,0 +1,47 @@
+// The exports beyond the 198.
+#include "TarvexExt.h"
+#include "frame/CallFrame.h"
+
+int32_t TarvexExt_ProcessEvents(void)
+{
+    return OnManager(&CWindowManager::ProcessEvents);
+}
+
+int32_t TarvexExt_GetEventDescriptor(int32_t* descriptor)
+{
+    ClearToNone(descriptor);
+    return OnManager(&CWindowManager::GetEventDescriptor, descriptor);
+}
+
+int32_t TarvexExt_Window_CopyImage(int32_t windowId, uint8_t* rgb, int32_t capacity, int32_t* width,
+                                   int32_t* height)
+{
+    ClearToZero(width, height);
+    return OnView(windowId, &CWindow::CopyImage, rgb, capacity, width, height);
+}
+
+int32_t TarvexExt_Window2D_CopyImage(int32_t windowId, uint8_t*, int32_t, int32_t* width,
+                                     int32_t* height)
+{
+    ClearToZero(width, height);
+    return NotBuilt<CWindow2D>(windowId);
+}
+
+const char* TarvexExt_GetVersion(void)
+{
+    return TARVEX_VERSION;
+}
+
+int32_t TarvexExt_GetLastError(char* text, int32_t capacity)
+{
+    if (!text)
+    {
+        return STATUS_NULL_ARGUMENT;
+    }
+    if (capacity < 1)
+    {
+        return STATUS_TOO_SMALL;
+    }
+    LastErrorText::Copy(text, capacity);
+    return STATUS_OK;
+}

@@ -1,0 +1,20 @@
+// The number tests that all elements share.
+#pragma once
+
+#include <initializer_list>
+
+// False for NaN and for the values that hosts use as "no value" markers; infinities pass.
+bool IsValidNumber(double value);
+bool AreValidNumbers(std::initializer_list<double> values);
+// True when every value can be drawn without harm: one prop at 1e39 would leave the camera without
+// usable numbers for good.
+bool AreDrawable(std::initializer_list<double> values);
+// Out of range in a float becomes the largest one.
+float NarrowToFloat(double value);
+
+// Range test in the form "below the lower or above the upper bound", so that a NaN counts as
+// inside.
+constexpr bool IsOutside(double value, double lower, double upper)
+{
+    return value < lower || value > upper;
+}

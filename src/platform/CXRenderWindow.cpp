@@ -1,0 +1,400 @@
+#include "platform/CXRenderWindow.h"
+
+#include "platform/CXInteractor.h"
+#include "platform/XState.h"
+
+#include <vtkObjectFactory.h>
+#include <vtkOpenGLFramebufferObject.h>
+#include <vtkOpenGLState.h>
+
+#include <X11/Xutil.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+#include <vector>
+
+vtkStandardNewMacro(CXRenderWindow);
+
+namespace
+{
+// Above the size of any wall of screens, below what the X server and OpenGL take.
+constexpr int mostPixels = 16384;
+
+// Drains the drawing connection: nothing but news of our windows arrives there.
+void ReadNotices(XConnection& connection)
+{
+    XErrorTrap trap;
+    while (!connection.IsBroken() && XEventsQueued(connection.Drawing, QueuedAfterReading) > 0)
+    {
+        XEvent event;
+        XNextEvent(connection.Drawing, &event);
+        if (event.type != DestroyNotify)
+        {
+            continue;
+        }
+        const auto view = X11->Views.find(event.xdestroywindow.window);
+        if (view != X11->Views.end())
+        {
+            view->second->MarkLost();
+        }
+    }
+}
+} // namespace
+
+CXRenderWindow::CXRenderWindow()
+{
+    // The stock way copies each picture once more before it is shown.
+    SetFrameBlitModeToBlitToCurrent();
+}
+
+CXRenderWindow::~CXRenderWindow()
+{
+    XErrorTrap trap;
+    if (WindowId)
+    {
+        Finalize();
+    }
+    if (IsConnected())
+    {
+        if (Native)
+        {
+            XDestroyWindow(DisplayId, Native);
+        }
+        if (ColorMap)
+        {
+            XFreeColormap(DisplayId, ColorMap);
+        }
+        // The host's window is without ours when the call that deletes a view returns.
+        XSync(DisplayId, False);
+    }
+    WindowId = 0;
+    DisplayId = nullptr;
+}
+
+void CXRenderWindow::SetConnection(std::shared_ptr<XConnection> connection)
+{
+    Connection = std::move(connection);
+    SetDisplayId(Connection ? Connection->Drawing : nullptr);
+}
+
+bool CXRenderWindow::CreateNativeWindow()
+{
+    auto* visual = reinterpret_cast<XVisualInfo*>(GetDesiredVisualInfo());
+    if (!visual)
+    {
+        return false;
+    }
+    XErrorTrap trap;
+    const Window root = RootWindow(DisplayId, visual->screen);
+    if (!ColorMap)
+    {
+        ColorMap = XCreateColormap(DisplayId, root, visual->visual, AllocNone);
+    }
+    XSetWindowAttributes attributes = {};
+    attributes.background_pixel = 0;
+    attributes.border_pixel = 0;
+    attributes.colormap = ColorMap;
+    attributes.event_mask = StructureNotifyMask;
+    attributes.override_redirect = GetBorders() == 0 ? True : False;
+    // A child of the root until the context stands: only we can destroy it in that time.
+    Native = XCreateWindow(
+        DisplayId, root, Position[0], Position[1], static_cast<unsigned>(std::max(Size[0], 1)),
+        static_cast<unsigned>(std::max(Size[1], 1)), 0, visual->depth, InputOutput, visual->visual,
+        CWBackPixel | CWBorderPixel | CWColormap | CWEventMask | CWOverrideRedirect, &attributes);
+    XFree(visual);
+    XSync(DisplayId, False);
+    if (trap.Failed() || !IsConnected())
+    {
+        Native = 0;
+        return false;
+    }
+    WindowId = Native;
+    return true;
+}
+
+// Into the host's window and onto the screen; false when the parent is no usable window.
+bool CXRenderWindow::PlaceInParent()
+{
+    XErrorTrap trap;
+    if (ParentId && ParentId != DefaultRootWindow(DisplayId))
+    {
+        XReparentWindow(DisplayId, WindowId, ParentId, Position[0], Position[1]);
+    }
+    else
+    {
+        // On its own it is closed by its user: as a lost window, not as a killed connection.
+        XSetWMProtocols(DisplayId, WindowId, &Connection->DeleteWindow, 1);
+    }
+    XSync(DisplayId, False);
+    if (trap.Failed() || !IsConnected())
+    {
+        return false;
+    }
+    XMapWindow(DisplayId, WindowId);
+    XSync(DisplayId, False);
+    return !trap.Failed() && IsConnected();
+}
+
+void CXRenderWindow::ChooseSampling()
+{
+    const char* renderer = reinterpret_cast<const char*>(glGetString(GL_RENDERER));
+    const std::string_view name = renderer ? renderer : "";
+    // Nearly free on hardware, several times the frame on a software rasteriser.
+    const bool software = name.find("llvmpipe") != name.npos ||
+                          name.find("softpipe") != name.npos || name.find("SWR") != name.npos ||
+                          name.find("SVGA3D") != name.npos;
+    if (software)
+    {
+        SetMultiSamples(0);
+    }
+}
+
+void CXRenderWindow::Initialize()
+{
+    if (Lost || !IsConnected())
+    {
+        return;
+    }
+    XErrorTrap trap;
+    if (WindowId)
+    {
+        Superclass::Initialize();
+        return;
+    }
+    if (!CreateNativeWindow())
+    {
+        Lost = true;
+        return;
+    }
+    Superclass::Initialize();
+    ChooseSampling();
+    if (!PlaceInParent())
+    {
+        // The unmapped window stays as the context's drawable.
+        Lost = true;
+    }
+}
+
+void* CXRenderWindow::GetGenericWindowId()
+{
+    if (Connection)
+    {
+        ReadNotices(*Connection);
+    }
+    return IsUsable() ? reinterpret_cast<void*>(WindowId) : nullptr;
+}
+
+bool CXRenderWindow::IsStillThere()
+{
+    if (!IsUsable())
+    {
+        return false;
+    }
+    XErrorTrap trap;
+    XWindowAttributes attributes;
+    if (!XGetWindowAttributes(DisplayId, WindowId, &attributes) || trap.Failed())
+    {
+        MarkLost();
+    }
+    return IsUsable();
+}
+
+void CXRenderWindow::MarkLost()
+{
+    if (Lost)
+    {
+        return;
+    }
+    Lost = true;
+    if (!IsConnected() || !WindowId)
+    {
+        return;
+    }
+    XErrorTrap trap;
+    auto* visual = reinterpret_cast<XVisualInfo*>(GetDesiredVisualInfo());
+    if (!visual)
+    {
+        return;
+    }
+    XSetWindowAttributes attributes = {};
+    attributes.border_pixel = 0;
+    attributes.colormap = ColorMap;
+    Native = XCreateWindow(DisplayId, RootWindow(DisplayId, visual->screen), 0, 0, 1, 1, 0,
+                           visual->depth, InputOutput, visual->visual, CWBorderPixel | CWColormap,
+                           &attributes);
+    XFree(visual);
+    WindowId = Native;
+    XSync(DisplayId, False);
+    SetForceMakeCurrent();
+    MakeCurrent();
+}
+
+void CXRenderWindow::Start()
+{
+    Initialize();
+    if (IsUsable())
+    {
+        Superclass::Start();
+    }
+}
+
+void CXRenderWindow::End()
+{
+    if (IsUsable())
+    {
+        Superclass::End();
+    }
+}
+
+void CXRenderWindow::Frame()
+{
+    if (IsUsable())
+    {
+        Superclass::Frame();
+    }
+}
+
+void CXRenderWindow::Render()
+{
+    XErrorTrap trap;
+    if (!WindowId)
+    {
+        Initialize();
+    }
+    if (!IsStillThere())
+    {
+        return;
+    }
+    try
+    {
+        Superclass::Render();
+    }
+    catch (...)
+    {
+        // VTK would take every later render for a nested one.
+        ClearInRenderStatus();
+        End();
+        throw;
+    }
+    PictureSize[0] = Size[0];
+    PictureSize[1] = Size[1];
+}
+
+void CXRenderWindow::MakeCurrent()
+{
+    if (!IsConnected())
+    {
+        return;
+    }
+    if (!X11->ContextDisplay)
+    {
+        X11->HostContext = glXGetCurrentContext();
+        X11->HostDisplay = glXGetCurrentDisplay();
+        X11->HostDrawable = glXGetCurrentDrawable();
+        X11->ContextDisplay = DisplayId;
+    }
+    Superclass::MakeCurrent();
+}
+
+void CXRenderWindow::SetSize(int width, int height)
+{
+    width = std::min(width, mostPixels);
+    height = std::min(height, mostPixels);
+    if (Size[0] == width && Size[1] == height)
+    {
+        return;
+    }
+    if (WindowId && IsStillThere())
+    {
+        XErrorTrap trap;
+        XResizeWindow(DisplayId, WindowId, static_cast<unsigned>(width),
+                      static_cast<unsigned>(height));
+        XSync(DisplayId, False);
+    }
+    TakeNativeSize(width, height);
+}
+
+void CXRenderWindow::TakeNativeSize(int width, int height)
+{
+    // Past the X11 class, which would wait for the window to follow.
+    vtkOpenGLRenderWindow::SetSize(width, height);
+    if (Interactor)
+    {
+        Interactor->SetSize(width, height);
+    }
+    Modified();
+}
+
+void CXRenderWindow::SetPosition(int x, int y)
+{
+    if (!WindowId)
+    {
+        Superclass::SetPosition(x, y);
+    }
+    else if (IsStillThere())
+    {
+        XErrorTrap trap;
+        Superclass::SetPosition(x, y);
+    }
+}
+
+void CXRenderWindow::SetCurrentCursor(int shape)
+{
+    if (IsUsable() && shape != GetCurrentCursor())
+    {
+        XErrorTrap trap;
+        Superclass::SetCurrentCursor(shape);
+    }
+}
+
+void CXRenderWindow::GetPictureSize(int32_t* width, int32_t* height)
+{
+    const int* size = PictureSize[0] > 0 ? PictureSize : Size;
+    *width = size[0];
+    *height = size[1];
+}
+
+bool CXRenderWindow::CopyPicture(uint8_t* rgb)
+{
+    int32_t width = 0;
+    int32_t height = 0;
+    GetPictureSize(&width, &height);
+    const size_t rowBytes = 3 * static_cast<size_t>(width);
+    if (PictureSize[0] == 0)
+    {
+        std::memset(rgb, 0, rowBytes * static_cast<size_t>(height));
+        return true;
+    }
+    // From the frame buffer of the last picture, not from the screen: right also when covered.
+    const vtkRecti all(0, 0, width, height);
+    if (ReadPixels(all, 1, GL_RGB, GL_UNSIGNED_BYTE, rgb, 0) != VTK_OK)
+    {
+        return false;
+    }
+    for (int32_t row = 0; row < height / 2; ++row)
+    {
+        uint8_t* upper = rgb + rowBytes * static_cast<size_t>(row);
+        uint8_t* lower = rgb + rowBytes * static_cast<size_t>(height - 1 - row);
+        std::swap_ranges(upper, upper + rowBytes, lower);
+    }
+    return true;
+}
+
+void CXRenderWindow::DestroyWindow()
+{
+    XErrorTrap trap;
+    if (!IsConnected())
+    {
+        // Nothing can be said to the server; only the client side is let go.
+        OwnContext = 0;
+        DisplayId = nullptr;
+        WindowId = 0;
+    }
+    else if (WindowId)
+    {
+        // A window that is gone by now is replaced before the context is asked to free anything.
+        IsStillThere();
+    }
+    Superclass::DestroyWindow();
+}

@@ -1,0 +1,64 @@
+// A render window that survives everything a host can do to the native window under it.
+#pragma once
+
+#include "platform/XConnection.h"
+
+#include <vtkXOpenGLRenderWindow.h>
+
+// Stock VTK opens a connection for each window, waits for ever or aborts where a parent or an
+// extension is missing, and ends the process when its window was destroyed by somebody else. Here
+// the native window is made by hand before VTK sees it; once it is lost, GetGenericWindowId answers
+// null and every operation is harmless.
+class CXRenderWindow : public vtkXOpenGLRenderWindow
+{
+public:
+    static CXRenderWindow* New();
+    vtkTypeMacro(CXRenderWindow, vtkXOpenGLRenderWindow);
+
+    void SetConnection(std::shared_ptr<XConnection> connection);
+    const std::shared_ptr<XConnection>& GetConnection() const { return Connection; }
+
+    // Somebody destroyed the native window. The context gets a window of ours instead, so that its
+    // resources can still be freed.
+    void MarkLost();
+    // The host or the window manager gave the native window another size.
+    void TakeNativeSize(int width, int height);
+
+    void GetPictureSize(int32_t* width, int32_t* height);
+    bool CopyPicture(uint8_t* rgb);
+
+    // Null when the native window is gone. Costs no round trip to the server.
+    void* GetGenericWindowId() override;
+    void Initialize() override;
+    void Start() override;
+    void End() override;
+    void Frame() override;
+    void Render() override;
+    void MakeCurrent() override;
+    void SetSize(int width, int height) override;
+    void SetSize(int size[2]) override { SetSize(size[0], size[1]); }
+    void SetPosition(int x, int y) override;
+    void SetPosition(int position[2]) override { SetPosition(position[0], position[1]); }
+    void SetCurrentCursor(int shape) override;
+    // A render is never cut short by waiting input.
+    vtkTypeBool GetEventPending() override { return 0; }
+
+protected:
+    CXRenderWindow();
+    ~CXRenderWindow() override;
+    void DestroyWindow() override;
+
+private:
+    bool IsConnected() const { return Connection && !Connection->IsBroken(); }
+    bool IsUsable() const { return !Lost && WindowId && IsConnected(); }
+    // Asks the server, for the calls that are expensive anyway and fatal without a window.
+    bool IsStillThere();
+    bool CreateNativeWindow();
+    bool PlaceInParent();
+    void ChooseSampling();
+
+    std::shared_ptr<XConnection> Connection;
+    Window Native = 0; // as WindowId, but ours to destroy
+    bool Lost = false;
+    int PictureSize[2] = {0, 0}; // 0, 0 before the first render
+};

@@ -1,0 +1,47 @@
+// What the rest of the library needs from the window system. Everything here is called with the
+// global lock held, unless its comment says otherwise. The X11 implementation lies beside this
+// file; a second platform is a second group of files behind this header.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include <vtkSmartPointer.h>
+
+class vtkRenderWindow;
+class vtkRenderWindowInteractor;
+
+namespace Platform
+{
+// Lives through every call into the library that may touch a window: window system errors on our
+// connections stay here, the host's OpenGL context and handlers are put back at the end, and what
+// the call asked of the window system has been sent when it returns. Scopes nest.
+class CallScope
+{
+public:
+    CallScope();
+    ~CallScope();
+    CallScope(const CallScope&) = delete;
+    CallScope& operator=(const CallScope&) = delete;
+};
+
+// A render window whose GetGenericWindowId is null once its native window is gone, or never came
+// to be: no window system, no OpenGL, an unusable parent. All its operations are then harmless.
+vtkSmartPointer<vtkRenderWindow> NewRenderWindow();
+// Initialize creates the native window and does not render.
+vtkSmartPointer<vtkRenderWindowInteractor> NewInteractor();
+
+// The size of the last rendered picture; of the window, before the first one.
+void GetPictureSize(vtkRenderWindow* window, int32_t* width, int32_t* height);
+// The last rendered picture as RGB bytes, top row first; black before the first one. `rgb` has room
+// for 3 * width * height bytes of GetPictureSize. False: the pixels could not be read.
+bool CopyPicture(vtkRenderWindow* window, uint8_t* rgb);
+
+// One step of the event pump runs one action; the caller wraps it in lock and guard.
+using EventStep = std::function<void(const std::function<void()>& action)>;
+// Handles the events that wait at this moment, without waiting for more, then renders each view
+// that asked for it once. Called without the global lock. False: the window system was lost.
+bool PumpEvents(const EventStep& step);
+// Readable exactly when events wait. -1: no window system.
+int GetEventDescriptor();
+} // namespace Platform

@@ -1,0 +1,164 @@
+#include "platform/XConnection.h"
+
+#include "platform/XState.h"
+
+#include <algorithm>
+
+namespace
+{
+XConnection* FindOwner(Display* display)
+{
+    const auto found =
+        std::find_if(X11->Connections.begin(), X11->Connections.end(),
+                     [display](XConnection* connection) { return connection->Owns(display); });
+    return found == X11->Connections.end() ? nullptr : *found;
+}
+
+int OnError(Display* display, XErrorEvent* event)
+{
+    if (FindOwner(display))
+    {
+        ++X11->ErrorCount;
+        return 0;
+    }
+    return X11->HostErrorHandler ? X11->HostErrorHandler(display, event) : 0;
+}
+
+int OnIOError(Display* display)
+{
+    if (XConnection* owner = FindOwner(display))
+    {
+        owner->MarkBroken();
+        return 0;
+    }
+    return X11->HostIOErrorHandler ? X11->HostIOErrorHandler(display) : 0;
+}
+
+// Xlib ends the process after an I/O error unless the display has an exit handler that returns.
+void OnIOErrorExit(Display*, void*) {}
+
+Display* OpenDisplay()
+{
+    Display* display = XOpenDisplay(nullptr);
+    if (display)
+    {
+        XSetIOErrorExitHandler(display, OnIOErrorExit, nullptr);
+    }
+    return display;
+}
+
+// VTK aborts the process where one of these is missing, so it is tested before VTK is asked.
+bool HasUsableOpenGL(Display* display)
+{
+    if (!glXQueryExtension(display, nullptr, nullptr))
+    {
+        return false;
+    }
+    const int wanted[] = {GLX_DRAWABLE_TYPE,
+                          GLX_WINDOW_BIT,
+                          GLX_RENDER_TYPE,
+                          GLX_RGBA_BIT,
+                          GLX_RED_SIZE,
+                          1,
+                          GLX_GREEN_SIZE,
+                          1,
+                          GLX_BLUE_SIZE,
+                          1,
+                          GLX_DEPTH_SIZE,
+                          1,
+                          GLX_ALPHA_SIZE,
+                          1,
+                          None};
+    int count = 0;
+    GLXFBConfig* configs = glXChooseFBConfig(display, DefaultScreen(display), wanted, &count);
+    if (!configs)
+    {
+        return false;
+    }
+    using CreateContext = GLXContext (*)(Display*, GLXFBConfig, GLXContext, Bool, const int*);
+    const auto createContext = reinterpret_cast<CreateContext>(
+        glXGetProcAddressARB(reinterpret_cast<const GLubyte*>("glXCreateContextAttribsARB")));
+    const int version[] = {GLX_CONTEXT_MAJOR_VERSION_ARB, 3, GLX_CONTEXT_MINOR_VERSION_ARB, 2,
+                           None};
+    GLXContext context = createContext && count > 0
+                             ? createContext(display, configs[0], nullptr, True, version)
+                             : nullptr;
+    XSync(display, False);
+    XFree(configs);
+    if (!context)
+    {
+        return false;
+    }
+    glXDestroyContext(display, context);
+    return true;
+}
+} // namespace
+
+std::shared_ptr<XConnection> XConnection::Acquire()
+{
+    if (X11->Connection && !X11->Connection->IsBroken())
+    {
+        return X11->Connection;
+    }
+    auto connection = std::make_shared<XConnection>();
+    if (!connection->Open())
+    {
+        return nullptr;
+    }
+    X11->Connection = connection;
+    return connection;
+}
+
+XConnection::XConnection()
+{
+    X11->Connections.push_back(this);
+}
+
+bool XConnection::Open()
+{
+    XErrorTrap trap;
+    Drawing = OpenDisplay();
+    if (!Drawing || !HasUsableOpenGL(Drawing))
+    {
+        return false;
+    }
+    Input = OpenDisplay();
+    DeleteWindow = XInternAtom(Drawing, "WM_DELETE_WINDOW", False);
+    return Input && !Broken;
+}
+
+XConnection::~XConnection()
+{
+    XErrorTrap trap;
+    for (Display* display : {Input, Drawing})
+    {
+        if (display)
+        {
+            XCloseDisplay(display);
+        }
+    }
+    std::erase(X11->Connections, this);
+}
+
+XErrorTrap::XErrorTrap() : Before(X11->ErrorCount)
+{
+    if (X11->TrapDepth++ == 0)
+    {
+        X11->HostErrorHandler = XSetErrorHandler(OnError);
+        X11->HostIOErrorHandler = XSetIOErrorHandler(OnIOError);
+    }
+}
+
+XErrorTrap::~XErrorTrap()
+{
+    if (--X11->TrapDepth == 0)
+    {
+        XSetErrorHandler(X11->HostErrorHandler);
+        XSetIOErrorHandler(X11->HostIOErrorHandler);
+    }
+}
+
+bool XErrorTrap::Failed() const
+{
+    return X11->ErrorCount != Before;
+}

@@ -1,0 +1,42 @@
+// Everything that the X11 layer keeps for the process, in one object that lives from load to
+// unload.
+#pragma once
+
+#include "platform/XConnection.h"
+
+#include <GL/glx.h>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+class CXInteractor;
+
+struct XState
+{
+    // For new views; older broken ones are kept by their views.
+    std::shared_ptr<XConnection> Connection;
+    // All that are open, to tell their errors from the host's.
+    std::vector<XConnection*> Connections;
+
+    unsigned long ErrorCount = 0;
+    int TrapDepth = 0;
+    XErrorHandler HostErrorHandler = nullptr;
+    XIOErrorHandler HostIOErrorHandler = nullptr;
+
+    // The views by their native window: whom an event is for.
+    std::map<Window, CXInteractor*> Views;
+    bool Dispatching = false;
+
+    // The call under way.
+    int CallDepth = 0;
+    std::optional<XErrorTrap> CallTrap;
+    // Which OpenGL context the host had current when the call first needed one of ours.
+    Display* ContextDisplay = nullptr; // ours; null while no context of ours was used
+    Display* HostDisplay = nullptr;
+    GLXDrawable HostDrawable = 0;
+    GLXContext HostContext = nullptr;
+};
+
+// Null outside load and unload.
+extern XState* X11;

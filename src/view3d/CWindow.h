@@ -1,0 +1,199 @@
+// One 3D view: a renderer in a child of the host's window, its mouse styles, its elements and the
+// box in which unbounded elements are drawn. Always used with the global lock held.
+#pragma once
+
+#include "Tarvex.h"
+#include "elements3d/CElement_Scene.h"
+#include "frame/CIdList.h"
+#include "frame/Guarded.h"
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <utility>
+
+#include <vtkRenderWindow.h>
+#include <vtkRenderWindowInteractor.h>
+#include <vtkRenderer.h>
+#include <vtkSmartPointer.h>
+
+class MyDefaultInteractorStyle;
+class vtkCamera;
+
+class vtkTransform;
+
+// When a call on an element draws the view again.
+enum class Render
+{
+    Always,       // whatever the element answered
+    AfterSuccess, // when it answered STATUS_OK
+    Never         // not at all, or the element has drawn by itself
+};
+
+class CWindow
+{
+public:
+    explicit CWindow(int32_t id);
+    ~CWindow();
+    CWindow(const CWindow&) = delete;
+    CWindow& operator=(const CWindow&) = delete;
+
+    int32_t Create(bool noBorders, void* parentWindow, int32_t x, int32_t y, int32_t width,
+                   int32_t height);
+
+    // The first test of nearly every operation: created, and its native window still there.
+    int32_t Guard() const;
+
+    int32_t UpdateSize(int32_t x, int32_t y, int32_t width, int32_t height);
+    int32_t SetBackgroundColor(uint8_t red, uint8_t green, uint8_t blue);
+    int32_t RegisterCallback_ElementAdded(Tarvex_ElementAddedCallback callback);
+    int32_t RegisterCallback_ElementDragged(Tarvex_ElementDraggedCallback callback);
+    int32_t CopyImage(uint8_t* rgb, int32_t capacity, int32_t* width, int32_t* height);
+
+    // Elements (CWindowElements.cpp)
+    template <class Class, class... Geometry>
+    int32_t AddElement(const ElementDefaults* defaults, int32_t* elementId, Geometry... geometry);
+    template <class Class, class Action>
+    int32_t OnElement(int32_t elementId, Render render, Action&& action);
+    int32_t GetElementCount(int32_t* count);
+    int32_t GetElementIDFromIndex(int32_t index, int32_t* elementId);
+    int32_t GetElementType(int32_t elementId, int32_t* type);
+    int32_t HasValidValues(int32_t elementId, uint8_t* valid);
+    int32_t ShowElement(int32_t elementId, bool show);
+    int32_t Remove(int32_t elementId);
+    int32_t RemoveAll();
+    int32_t SetColor(int32_t elementId, uint8_t red, uint8_t green, uint8_t blue);
+    int32_t GetColor(int32_t elementId, uint8_t* red, uint8_t* green, uint8_t* blue);
+    int32_t GetDrawSpace(double* xmin, double* xmax, double* ymin, double* ymax, double* zmin,
+                         double* zmax);
+    int32_t SetDrawSpace(double xmin, double xmax, double ymin, double ymax, double zmin,
+                         double zmax);
+
+    // Interaction (CWindowInteraction.cpp)
+    int32_t EnableInteraction(bool enable);
+    int32_t EnableMouseInteraction(bool left, bool middle, bool right);
+    int32_t GetActiveElement(int32_t* elementId);
+    int32_t SetActiveElement(int32_t elementId);
+
+    // Camera, in VTK's world frame (CWindowCamera.cpp)
+    int32_t Camera_AutoSize();
+    int32_t Camera_EnableParallelProjection(bool enable);
+    int32_t Camera_GetPosition(double* x, double* y, double* z);
+    int32_t Camera_GetViewDirection(double* dirX, double* dirY, double* dirZ, double* upX,
+                                    double* upY, double* upZ);
+    int32_t Camera_SetPosition(double x, double y, double z);
+    int32_t Camera_SetPredefinedView(int32_t view);
+    int32_t Camera_SetViewDirection(double dirX, double dirY, double dirZ, double upX, double upY,
+                                    double upZ);
+    int32_t Camera_SetZoom(double factor);
+
+    const int32_t Id;
+
+    // For tests and for those who draw into the view.
+    vtkRenderer* GetRenderer() const { return Renderer; }
+    vtkRenderWindow* GetRenderWindow() const { return RenderWindow; }
+    vtkRenderWindowInteractor* GetInteractor() const { return Interactor; }
+    CElement_Scene* FindElement(int32_t elementId) const { return Elements.Find(elementId); }
+
+private:
+    // Guard, then the action inside the exception guard.
+    template <class Action>
+    int32_t WhenReady(Action&& action);
+    // The camera with everything in front of it visible, then a picture.
+    int32_t ShowCamera();
+    ElementSite MakeSite(const ElementDefaults* defaults) const;
+    void ClearActiveElement();
+
+    std::string LastError;
+    vtkSmartPointer<vtkRenderer> Renderer;
+    vtkSmartPointer<vtkRenderWindow> RenderWindow; // null: not created
+    vtkSmartPointer<vtkRenderWindowInteractor> Interactor;
+    vtkSmartPointer<MyDefaultInteractorStyle> DefaultStyle;
+    // Host coordinates to VTK's world: a host point (x, y, z) lies at (x, -y, z).
+    vtkSmartPointer<vtkTransform> SceneTransform;
+
+    int32_t DrawMode = 0; // 0: none
+    double DrawSpace[6] = {-50.0, 50.0, -50.0, 50.0, -50.0, 50.0};
+    bool MouseEnabled[3] = {true, true, true}; // left, middle, right with wheel
+    int32_t ActiveElementId = -1;
+    Tarvex_ElementAddedCallback ElementAddedCallback = nullptr;
+    Tarvex_ElementDraggedCallback ElementDraggedCallback = nullptr;
+
+    int32_t NextElementId = 0; // only goes up
+    CIdList<CElement_Scene> Elements;
+};
+
+template <class Action>
+int32_t CWindow::WhenReady(Action&& action)
+{
+    const int32_t status = Guard();
+    return status == STATUS_OK ? Guarded(LastError, std::forward<Action>(action)) : status;
+}
+
+template <class Class, class... Geometry>
+int32_t CWindow::AddElement(const ElementDefaults* defaults, int32_t* elementId,
+                            Geometry... geometry)
+{
+    return WhenReady(
+        [&]() -> int32_t
+        {
+            Elements.Reserve();
+            auto element = std::make_unique<Class>();
+            // Out of the scene again, unless it reaches the list: also when a step throws.
+            struct Undo
+            {
+                ~Undo()
+                {
+                    if (Added)
+                    {
+                        Added->SetInScene(false);
+                    }
+                }
+                Class* Added;
+            } undo{element.get()};
+
+            int32_t status = element->Initialize(MakeSite(defaults), geometry...);
+            if (status == STATUS_OK)
+            {
+                status = element->BuildPipeline();
+            }
+            if (status == STATUS_OK)
+            {
+                status = element->Show(true);
+            }
+            if (status == STATUS_OK)
+            {
+                undo.Added = nullptr;
+                Elements.Append(std::move(element));
+                *elementId = NextElementId++;
+            }
+            return status;
+        });
+}
+
+template <class Class, class Action>
+int32_t CWindow::OnElement(int32_t elementId, Render render, Action&& action)
+{
+    return WhenReady(
+        [&]() -> int32_t
+        {
+            CElement_Scene* element = Elements.Find(elementId);
+            if (!element)
+            {
+                return STATUS_BAD_INDEX;
+            }
+            if constexpr (!std::is_base_of_v<Class, CElement_Scene>)
+            {
+                if (element->ElementType != Class::Type)
+                {
+                    return STATUS_WRONG_TYPE;
+                }
+            }
+            const int32_t status = action(static_cast<Class&>(*element));
+            if (render == Render::Always || (render == Render::AfterSuccess && status == STATUS_OK))
+            {
+                RenderWindow->Render();
+            }
+            return status;
+        });
+}

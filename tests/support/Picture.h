@@ -1,0 +1,27 @@
+// The picture of a view, for tests that look at it by counts and places of colours.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+struct Picture
+{
+    using Color = std::array<uint8_t, 3>;
+
+    // From the upper left corner.
+    Color At(int x, int y) const;
+    int Count(const std::function<bool(const Color&)>& matches) const;
+    // Pixels that differ from `other` by more than `tolerance` in a channel; all, for other sizes.
+    int CountDifferences(const Picture& other, int tolerance = 0) const;
+    // Centre of the matching pixels; -1, -1 when there are none.
+    std::array<double, 2> Centre(const std::function<bool(const Color&)>& matches) const;
+
+    int Width = 0;
+    int Height = 0;
+    std::vector<uint8_t> Pixels; // RGB, top row first
+};
+
+// The last rendered picture of a 3D view.
+Picture TakePicture(int32_t windowId);

@@ -1,0 +1,40 @@
+// A host program as the tests play it: windows of its own on the X server, real mouse input, and a
+// loop that lets the library handle its events.
+#pragma once
+
+#include <X11/Xlib.h>
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+class TestHost
+{
+public:
+    explicit TestHost(int width = 640, int height = 480);
+    ~TestHost();
+    TestHost(const TestHost&) = delete;
+    TestHost& operator=(const TestHost&) = delete;
+
+    // What a host hands to Tarvex_Window_Create.
+    void* Handle() const { return reinterpret_cast<void*>(Native); }
+    // The windows that the library has placed in the host's.
+    std::vector<Window> Children() const;
+    void Destroy();
+    // Closes the host's connection without another word, as a dying host does.
+    void CloseConnection();
+
+    // Mouse input as from a hand; x and y are pixels in `window`, from its upper left corner.
+    void MoveMouse(Window window, int x, int y);
+    void Press(unsigned button);
+    void Release(unsigned button);
+    void Drag(Window window, unsigned button, int x0, int y0, int x1, int y1, int steps = 5);
+
+    Display* Connection = nullptr;
+    Window Native = 0;
+};
+
+// Handles events until none has come for a while.
+void Settle();
+// Handles events until `done`, at most some seconds; returns what `done` says last.
+bool SettleUntil(const std::function<bool()>& done);
