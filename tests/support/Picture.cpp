@@ -8,7 +8,8 @@
 
 Picture::Color Picture::At(int x, int y) const
 {
-    const size_t at = 3 * (static_cast<size_t>(y) * static_cast<size_t>(Width) + static_cast<size_t>(x));
+    const size_t at =
+        3 * (static_cast<size_t>(y) * static_cast<size_t>(Width) + static_cast<size_t>(x));
     return {Pixels[at], Pixels[at + 1], Pixels[at + 2]};
 }
 

@@ -1,13 +1,10 @@
 #include "support/TestHost.h"
 
-#include "TarvexExt.h"
-
-#include <X11/extensions/XTest.h>
 #include <gtest/gtest.h>
-#include <poll.h>
 
-#include <chrono>
-
+// After GoogleTest, which its macros would break.
+#include <X11/Xlib.h>
+#include <X11/extensions/XTest.h>
 TestHost::TestHost(int width, int height)
 {
     Connection = XOpenDisplay(nullptr);
@@ -32,7 +29,7 @@ TestHost::~TestHost()
     }
 }
 
-std::vector<Window> TestHost::Children() const
+std::vector<NativeWindow> TestHost::Children() const
 {
     Window root = 0;
     Window parent = 0;
@@ -42,7 +39,7 @@ std::vector<Window> TestHost::Children() const
     {
         return {};
     }
-    std::vector<Window> result(children, children + count);
+    std::vector<NativeWindow> result(children, children + count);
     if (children)
     {
         XFree(children);
@@ -67,7 +64,7 @@ void TestHost::CloseConnection()
     Native = 0;
 }
 
-void TestHost::MoveMouse(Window window, int x, int y)
+void TestHost::MoveMouse(NativeWindow window, int x, int y)
 {
     int rootX = 0;
     int rootY = 0;
@@ -88,52 +85,4 @@ void TestHost::Release(unsigned button)
 {
     XTestFakeButtonEvent(Connection, button, False, CurrentTime);
     XSync(Connection, False);
-}
-
-void TestHost::Drag(Window window, unsigned button, int x0, int y0, int x1, int y1, int steps)
-{
-    MoveMouse(window, x0, y0);
-    Settle();
-    Press(button);
-    for (int step = 1; step <= steps; ++step)
-    {
-        MoveMouse(window, x0 + (x1 - x0) * step / steps, y0 + (y1 - y0) * step / steps);
-        Settle();
-    }
-    Release(button);
-    Settle();
-}
-
-namespace
-{
-// False when nothing came within the time.
-bool HandleNext(int milliseconds)
-{
-    int descriptor = -1;
-    TarvexExt_GetEventDescriptor(&descriptor);
-    pollfd waiting = {descriptor, POLLIN, 0};
-    if (poll(&waiting, 1, milliseconds) <= 0)
-    {
-        return false;
-    }
-    TarvexExt_ProcessEvents();
-    return true;
-}
-} // namespace
-
-void Settle()
-{
-    while (HandleNext(30))
-    {
-    }
-}
-
-bool SettleUntil(const std::function<bool()>& done)
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-    while (!done() && std::chrono::steady_clock::now() < end)
-    {
-        HandleNext(20);
-    }
-    return done();
 }

@@ -2,11 +2,13 @@
 // loop that lets the library handle its events.
 #pragma once
 
-#include <X11/Xlib.h>
-
 #include <cstdint>
 #include <functional>
 #include <vector>
+
+// Xlib's macros and GoogleTest do not go together, so its types appear here under these names.
+struct _XDisplay;
+using NativeWindow = unsigned long;
 
 class TestHost
 {
@@ -19,19 +21,19 @@ public:
     // What a host hands to Tarvex_Window_Create.
     void* Handle() const { return reinterpret_cast<void*>(Native); }
     // The windows that the library has placed in the host's.
-    std::vector<Window> Children() const;
+    std::vector<NativeWindow> Children() const;
     void Destroy();
     // Closes the host's connection without another word, as a dying host does.
     void CloseConnection();
 
     // Mouse input as from a hand; x and y are pixels in `window`, from its upper left corner.
-    void MoveMouse(Window window, int x, int y);
+    void MoveMouse(NativeWindow window, int x, int y);
     void Press(unsigned button);
     void Release(unsigned button);
-    void Drag(Window window, unsigned button, int x0, int y0, int x1, int y1, int steps = 5);
+    void Drag(NativeWindow window, unsigned button, int x0, int y0, int x1, int y1, int steps = 5);
 
-    Display* Connection = nullptr;
-    Window Native = 0;
+    _XDisplay* Connection = nullptr;
+    NativeWindow Native = 0;
 };
 
 // Handles events until none has come for a while.

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what packages.txt lists and this machine lacks. Asks no questions; does nothing when all is there.
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")"
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 missing=()
 while read -r package; do
