@@ -12,6 +12,15 @@ void MyDefaultInteractorStyle::SetMouseFlags(bool left, bool middle, bool right)
     RightEnabled = right;
 }
 
+void MyDefaultInteractorStyle::EndMotion()
+{
+    State = VTKIS_NONE;
+    if (Interactor)
+    {
+        ReleaseFocus();
+    }
+}
+
 void MyDefaultInteractorStyle::OnLeftButtonDown()
 {
     if (LeftEnabled)

@@ -14,6 +14,9 @@ public:
     void SetWindowId(int32_t windowId) { WindowId = windowId; }
     // `right` also switches the wheel: both zoom.
     void SetMouseFlags(bool left, bool middle, bool right);
+    // Ends a camera motion whose button is still held, before the style is taken out or its switches
+    // change: nothing may go on moving without a button. Does not render.
+    void EndMotion();
 
     // A release always reaches the base class: a motion begun before a switch was turned must end.
     void OnLeftButtonDown() override;

@@ -13,6 +13,7 @@ int32_t CWindow::EnableInteraction(bool enable)
             {
                 return STATUS_DRAW_MODE_ACTIVE;
             }
+            DefaultStyle->EndMotion();
             Interactor->SetInteractorStyle(enable ? DefaultStyle.Get() : nullptr);
             return STATUS_OK;
         });
@@ -30,6 +31,7 @@ int32_t CWindow::EnableMouseInteraction(bool left, bool middle, bool right)
             MouseEnabled[0] = left;
             MouseEnabled[1] = middle;
             MouseEnabled[2] = right;
+            DefaultStyle->EndMotion();
             DefaultStyle->SetMouseFlags(left, middle, right);
             // Also after interaction was switched off as a whole.
             Interactor->SetInteractorStyle(DefaultStyle);
