@@ -69,6 +69,11 @@ int32_t CElement_Scene::Show(bool show)
 
 void CElement_Scene::FitToDrawSpace(const double*) {}
 
+int32_t CElement_Scene::ConnectScalarBar(vtkScalarBarActor*)
+{
+    return STATUS_WRONG_TYPE;
+}
+
 int32_t CElement_Scene::SetBackgroundColor(double red, double green, double blue)
 {
     BackgroundColor[0] = red;

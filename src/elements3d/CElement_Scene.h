@@ -11,6 +11,7 @@ struct ElementDefaults;
 class vtkPolyDataMapper;
 class vtkRenderer;
 class vtkRenderWindow;
+class vtkScalarBarActor;
 class vtkTransform;
 
 // Everything that a view gives to a new element beside its geometry. All pointers are borrowed; the
@@ -38,6 +39,9 @@ public:
     // The view's box (xmin, xmax, ymin, ymax, zmin, zmax) has changed; of use to unbounded
     // elements.
     virtual void FitToDrawSpace(const double drawSpace[6]);
+
+    // Gives the bar the element's colour table; STATUS_WRONG_TYPE for elements without one.
+    virtual int32_t ConnectScalarBar(vtkScalarBarActor* bar);
 
     int32_t SetBackgroundColor(double red, double green, double blue) override;
     int32_t GetTransparency(double* transparency) override;

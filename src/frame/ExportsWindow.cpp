@@ -147,77 +147,76 @@ int32_t Tarvex_Window_Camera_SetZoom(int32_t windowId, double factor)
     return OnView(windowId, &CWindow::Camera_SetZoom, factor);
 }
 
-int32_t Tarvex_Window_CoordinateAxes_Show(int32_t windowId, uint8_t /*show*/)
+int32_t Tarvex_Window_CoordinateAxes_Show(int32_t windowId, uint8_t show)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::CoordinateAxes_Show, show != 0);
 }
 
-int32_t Tarvex_Window_Orientation_Show(int32_t windowId, uint8_t /*show*/)
+int32_t Tarvex_Window_Orientation_Show(int32_t windowId, uint8_t show)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::Orientation_Show, show != 0);
 }
 
-int32_t Tarvex_Window_Cube_Add_Resize(int32_t windowId, int32_t /*elementId*/, double /*xmin*/,
-                                      double /*xmax*/, double /*ymin*/, double /*ymax*/,
-                                      double /*zmin*/, double /*zmax*/)
+int32_t Tarvex_Window_Cube_Add_Resize(int32_t windowId, int32_t elementId, double xmin, double xmax,
+                                      double ymin, double ymax, double zmin, double zmax)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::Cube_Add_Resize, elementId, xmin, xmax, ymin, ymax, zmin,
+                  zmax);
 }
 
-int32_t Tarvex_Window_Cube_AxisColoring(int32_t windowId, int32_t /*axis*/, int32_t /*part*/,
-                                        uint8_t /*red*/, uint8_t /*green*/, uint8_t /*blue*/)
+int32_t Tarvex_Window_Cube_AxisColoring(int32_t windowId, int32_t axis, int32_t part, uint8_t red,
+                                        uint8_t green, uint8_t blue)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::Cube_AxisColoring, axis, part, red, green, blue);
 }
 
-int32_t Tarvex_Window_Cube_FlyMode(int32_t windowId, int32_t /*mode*/)
+int32_t Tarvex_Window_Cube_FlyMode(int32_t windowId, int32_t mode)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::Cube_FlyMode, mode);
 }
 
-int32_t Tarvex_Window_Cube_GridLineLocation(int32_t windowId, int32_t /*location*/)
+int32_t Tarvex_Window_Cube_GridLineLocation(int32_t windowId, int32_t location)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::Cube_GridLineLocation, location);
 }
 
 int32_t Tarvex_Window_Cube_Remove(int32_t windowId)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::Cube_Remove);
 }
 
-int32_t Tarvex_Window_Cube_ShowHide(int32_t windowId, uint8_t /*show*/)
+int32_t Tarvex_Window_Cube_ShowHide(int32_t windowId, uint8_t show)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::Cube_ShowHide, show != 0);
 }
 
-int32_t Tarvex_Window_Cube_Visibility(int32_t windowId, int32_t /*axis*/, int32_t /*part*/,
-                                      uint8_t /*visible*/)
+int32_t Tarvex_Window_Cube_Visibility(int32_t windowId, int32_t axis, int32_t part, uint8_t visible)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::Cube_Visibility, axis, part, visible != 0);
 }
 
-int32_t Tarvex_Window_ScalarBar_Add(int32_t windowId, int32_t /*elementId*/)
+int32_t Tarvex_Window_ScalarBar_Add(int32_t windowId, int32_t elementId)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::ScalarBar_Add, elementId);
 }
 
 int32_t Tarvex_Window_ScalarBar_IsShown(int32_t windowId, uint8_t* shown)
 {
     ClearToZero(shown);
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::ScalarBar_IsShown, shown);
 }
 
 int32_t Tarvex_Window_ScalarBar_Remove(int32_t windowId)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::ScalarBar_Remove);
 }
 
-int32_t Tarvex_Window_ScalarBar_ShowHide(int32_t windowId, uint8_t /*show*/)
+int32_t Tarvex_Window_ScalarBar_ShowHide(int32_t windowId, uint8_t show)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::ScalarBar_ShowHide, show != 0);
 }
 
-int32_t Tarvex_Window_PickCoordinates_Show(int32_t windowId, uint8_t /*show*/)
+int32_t Tarvex_Window_PickCoordinates_Show(int32_t windowId, uint8_t show)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::PickCoordinates_Show, show != 0);
 }

@@ -11,11 +11,16 @@ public:
     static MyDefaultInteractorStyle* New();
     vtkTypeMacro(MyDefaultInteractorStyle, vtkInteractorStyleTrackballCamera);
 
+    // Takes a position under the mouse, in VTK's world, to the view of that id.
+    using PickForwarder = void (*)(int32_t windowId, double x, double y, double z);
+
     void SetWindowId(int32_t windowId) { WindowId = windowId; }
+    // Null ends the reporting of positions.
+    void SetPickForwarder(PickForwarder forwarder) { ForwardPick = forwarder; }
     // `right` also switches the wheel: both zoom.
     void SetMouseFlags(bool left, bool middle, bool right);
-    // Ends a camera motion whose button is still held, before the style is taken out or its switches
-    // change: nothing may go on moving without a button. Does not render.
+    // Ends a camera motion whose button is still held, before the style is taken out or its
+    // switches change: nothing may go on moving without a button. Does not render.
     void EndMotion();
 
     // A release always reaches the base class: a motion begun before a switch was turned must end.
@@ -31,6 +36,7 @@ protected:
 
 private:
     int32_t WindowId = -1;
+    PickForwarder ForwardPick = nullptr;
     bool LeftEnabled = true;
     bool MiddleEnabled = true;
     bool RightEnabled = true;

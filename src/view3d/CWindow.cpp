@@ -2,9 +2,13 @@
 
 #include "interaction3d/MyDefaultInteractorStyle.h"
 #include "platform/Platform.h"
+#include "view3d/CCoordinateAxes.h"
+#include "view3d/CCubeAxesActor.h"
 
-#include <vtkRenderWindowInteractor.h>
-#include <vtkRenderer.h>
+#include <vtkOrientationMarkerWidget.h>
+#include <vtkScalarBarActor.h>
+#include <vtkTextActor.h>
+#include <vtkTextWidget.h>
 #include <vtkTransform.h>
 
 #include <algorithm>
@@ -20,6 +24,9 @@ CWindow::~CWindow()
 {
     ElementAddedCallback = nullptr;
     ElementDraggedCallback = nullptr;
+    // Widgets hold on to the interactor.
+    HidePickText();
+    HideOrientation();
     // The native window leaves first, then the elements, which touch neither it nor the renderer.
     if (Interactor)
     {
@@ -29,6 +36,9 @@ CWindow::~CWindow()
     Interactor = nullptr;
     DefaultStyle = nullptr;
     Renderer = nullptr;
+    CoordinateAxes = nullptr;
+    CubeAxes = nullptr;
+    ScalarBar = nullptr;
     Elements.Clear();
 }
 

@@ -7,6 +7,7 @@
 #include "frame/CIdList.h"
 #include "frame/Guarded.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -17,8 +18,13 @@
 #include <vtkRenderer.h>
 #include <vtkSmartPointer.h>
 
+class CCoordinateAxes;
+class CCubeAxesActor;
 class MyDefaultInteractorStyle;
-class vtkCamera;
+class vtkOrientationMarkerWidget;
+class vtkScalarBarActor;
+class vtkTextActor;
+class vtkTextWidget;
 
 class vtkTransform;
 
@@ -55,6 +61,10 @@ public:
     int32_t AddElement(const ElementDefaults* defaults, int32_t* elementId, Geometry... geometry);
     template <class Class, class Action>
     int32_t OnElement(int32_t elementId, Render render, Action&& action);
+    // As OnElement, for calls that may replace an element's colour table: on success the scalar bar
+    // of the element takes the new one.
+    template <class Class, class Action>
+    int32_t OnColoring(int32_t elementId, Render render, Action&& action);
     int32_t GetElementCount(int32_t* count);
     int32_t GetElementIDFromIndex(int32_t index, int32_t* elementId);
     int32_t GetElementType(int32_t elementId, int32_t* type);
@@ -87,6 +97,30 @@ public:
                                     double upZ);
     int32_t Camera_SetZoom(double factor);
 
+    // Axes and orientation marker (CWindowAxes.cpp)
+    int32_t CoordinateAxes_Show(bool show);
+    int32_t Orientation_Show(bool show);
+
+    // Scale frame (CWindowCubeAxes.cpp)
+    int32_t Cube_Add_Resize(int32_t elementId, double xmin, double xmax, double ymin, double ymax,
+                            double zmin, double zmax);
+    int32_t Cube_AxisColoring(int32_t selection, int32_t part, uint8_t red, uint8_t green,
+                              uint8_t blue);
+    int32_t Cube_Visibility(int32_t selection, int32_t part, bool visible);
+    int32_t Cube_FlyMode(int32_t mode);
+    int32_t Cube_GridLineLocation(int32_t location);
+    int32_t Cube_ShowHide(bool show);
+    int32_t Cube_Remove();
+
+    // Scalar bar and picked coordinates (CWindowOverlays.cpp)
+    int32_t ScalarBar_Add(int32_t elementId);
+    int32_t ScalarBar_ShowHide(bool show);
+    int32_t ScalarBar_IsShown(uint8_t* shown);
+    int32_t ScalarBar_Remove();
+    int32_t PickCoordinates_Show(bool show);
+    // A position under the mouse, in VTK's world. Shows with the next render.
+    void UpdatePickText(double x, double y, double z);
+
     const int32_t Id;
 
     // For tests and for those who draw into the view.
@@ -103,6 +137,14 @@ private:
     int32_t ShowCamera();
     ElementSite MakeSite(const ElementDefaults* defaults) const;
     void ClearActiveElement();
+    void ShowOrientation();
+    void HideOrientation();
+    // For the calls that need a scale frame: the change, and a render if it succeeded.
+    int32_t WhenCubeExists(const std::function<int32_t()>& change);
+    int32_t RefreshScalarBar();
+    void RemoveScalarBar();
+    void ShowPickText();
+    void HidePickText();
 
     std::string LastError;
     vtkSmartPointer<vtkRenderer> Renderer;
@@ -118,6 +160,14 @@ private:
     int32_t ActiveElementId = -1;
     Tarvex_ElementAddedCallback ElementAddedCallback = nullptr;
     Tarvex_ElementDraggedCallback ElementDraggedCallback = nullptr;
+
+    std::unique_ptr<CCoordinateAxes> CoordinateAxes; // made at the first use, then kept
+    vtkSmartPointer<vtkOrientationMarkerWidget> OrientationWidget;
+    vtkSmartPointer<CCubeAxesActor> CubeAxes;
+    vtkSmartPointer<vtkScalarBarActor> ScalarBar;
+    int32_t ScalarBarElementId = -1; // -1 only without a bar
+    vtkSmartPointer<vtkTextActor> PickTextActor;
+    vtkSmartPointer<vtkTextWidget> PickTextWidget;
 
     int32_t NextElementId = 0; // only goes up
     CIdList<CElement_Scene> Elements;
@@ -196,4 +246,19 @@ int32_t CWindow::OnElement(int32_t elementId, Render render, Action&& action)
             }
             return status;
         });
+}
+
+template <class Class, class Action>
+int32_t CWindow::OnColoring(int32_t elementId, Render render, Action&& action)
+{
+    return OnElement<Class>(elementId, render,
+                            [&](Class& element)
+                            {
+                                const int32_t status = action(element);
+                                if (status == STATUS_OK && elementId == ScalarBarElementId)
+                                {
+                                    RefreshScalarBar();
+                                }
+                                return status;
+                            });
 }

@@ -87,6 +87,10 @@ int32_t CWindow::Remove(int32_t elementId)
             {
                 return STATUS_BAD_INDEX;
             }
+            if (elementId == ScalarBarElementId)
+            {
+                RemoveScalarBar();
+            }
             if (elementId == ActiveElementId)
             {
                 ClearActiveElement();
@@ -103,6 +107,7 @@ int32_t CWindow::RemoveAll()
     return WhenReady(
         [&]() -> int32_t
         {
+            RemoveScalarBar();
             ClearActiveElement();
             for (const std::unique_ptr<CElement_Scene>& element : Elements)
             {

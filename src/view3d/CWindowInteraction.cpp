@@ -2,7 +2,8 @@
 #include "interaction3d/MyDefaultInteractorStyle.h"
 #include "view3d/CWindow.h"
 
-#include <vtkRenderWindowInteractor.h>
+#include <vtkTextActor.h>
+#include <vtkTextWidget.h>
 
 int32_t CWindow::EnableInteraction(bool enable)
 {
@@ -14,6 +15,12 @@ int32_t CWindow::EnableInteraction(bool enable)
                 return STATUS_DRAW_MODE_ACTIVE;
             }
             DefaultStyle->EndMotion();
+            if (!enable && PickTextWidget)
+            {
+                // Off for good: they do not come back with the interaction.
+                HidePickText();
+                RenderWindow->Render();
+            }
             Interactor->SetInteractorStyle(enable ? DefaultStyle.Get() : nullptr);
             return STATUS_OK;
         });
