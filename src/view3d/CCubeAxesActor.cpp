@@ -60,6 +60,7 @@ int CInvertedAxisActor::RenderOpaqueGeometry(vtkViewport* viewport)
     {
         SetLabels(labels);
     }
+    Drawn = true;
     return Superclass::RenderOpaqueGeometry(viewport);
 }
 
@@ -105,4 +106,26 @@ void CCubeAxesActor::Set_InvertAxisLabellingY(bool invert)
 CInvertedAxisActor* CCubeAxesActor::GetYAxis(int position)
 {
     return static_cast<CInvertedAxisActor*>(YAxes[position]);
+}
+
+std::vector<CInvertedAxisActor*> CCubeAxesActor::GetDrawnYAxes()
+{
+    std::vector<CInvertedAxisActor*> axes;
+    for (int position = 0; position < NUMBER_OF_ALIGNED_AXIS; ++position)
+    {
+        if (GetYAxis(position)->IsDrawn())
+        {
+            axes.push_back(GetYAxis(position));
+        }
+    }
+    return axes;
+}
+
+int CCubeAxesActor::RenderOpaqueGeometry(vtkViewport* viewport)
+{
+    for (int position = 0; position < NUMBER_OF_ALIGNED_AXIS; ++position)
+    {
+        GetYAxis(position)->ClearDrawn();
+    }
+    return Superclass::RenderOpaqueGeometry(viewport);
 }

@@ -5,6 +5,7 @@
 #include <vtkCubeAxesActor.h>
 
 #include <string>
+#include <vector>
 
 // One Y axis. VTK labels it with world coordinates; with the inversion on, each label shows its
 // value with the sign turned.
@@ -15,6 +16,9 @@ public:
     vtkTypeMacro(CInvertedAxisActor, vtkAxisActor);
 
     void SetInverted(bool inverted) { Inverted = inverted; }
+    // Whether the last picture showed this axis; which do depends on camera and fly mode.
+    bool IsDrawn() const { return Drawn; }
+    void ClearDrawn() { Drawn = false; }
     // The text of a label as it is drawn.
     std::string GetLabelText(int label);
 
@@ -27,6 +31,7 @@ protected:
 
 private:
     bool Inverted = false;
+    bool Drawn = false;
 };
 
 class CCubeAxesActor : public vtkCubeAxesActor
@@ -36,9 +41,14 @@ public:
     vtkTypeMacro(CCubeAxesActor, vtkCubeAxesActor);
 
     void Set_InvertAxisLabellingY(bool invert);
-    CInvertedAxisActor* GetYAxis(int position);
+    // The Y axes that the last picture showed.
+    std::vector<CInvertedAxisActor*> GetDrawnYAxes();
+    int RenderOpaqueGeometry(vtkViewport* viewport) override;
 
 protected:
     CCubeAxesActor();
     ~CCubeAxesActor() override = default;
+
+private:
+    CInvertedAxisActor* GetYAxis(int position);
 };

@@ -159,3 +159,18 @@ int32_t CWindow::CopyImage(uint8_t* rgb, int32_t capacity, int32_t* width, int32
             return Platform::CopyPicture(RenderWindow, rgb) ? STATUS_OK : STATUS_NOT_READY;
         });
 }
+
+CCubeAxesActor* CWindow::GetCubeAxes() const
+{
+    return CubeAxes;
+}
+
+vtkScalarBarActor* CWindow::GetScalarBar() const
+{
+    return ScalarBar;
+}
+
+vtkTextActor* CWindow::GetPickTextActor() const
+{
+    return PickTextActor;
+}

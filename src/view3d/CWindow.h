@@ -127,6 +127,9 @@ public:
     vtkRenderer* GetRenderer() const { return Renderer; }
     vtkRenderWindow* GetRenderWindow() const { return RenderWindow; }
     vtkRenderWindowInteractor* GetInteractor() const { return Interactor; }
+    CCubeAxesActor* GetCubeAxes() const;
+    vtkScalarBarActor* GetScalarBar() const;
+    vtkTextActor* GetPickTextActor() const;
     CElement_Scene* FindElement(int32_t elementId) const { return Elements.Find(elementId); }
 
 private:
