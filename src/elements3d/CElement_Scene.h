@@ -33,7 +33,7 @@ public:
     using CElement_Base::CElement_Base;
 
     // The part of showing that does not draw: in or out of the renderer, clipping range reset.
-    int32_t SetInScene(bool inScene);
+    virtual int32_t SetInScene(bool inScene);
     // SetInScene and a render.
     int32_t Show(bool show);
     // The view's box (xmin, xmax, ymin, ymax, zmin, zmax) has changed; of use to unbounded
