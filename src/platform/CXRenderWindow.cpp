@@ -318,6 +318,7 @@ void CXRenderWindow::SetSize(int width, int height)
 void CXRenderWindow::TakeNativeSize(int width, int height)
 {
     // Past the X11 class, which would wait for the window to follow.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     vtkOpenGLRenderWindow::SetSize(width, height);
     if (Interactor)
     {

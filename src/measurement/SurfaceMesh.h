@@ -1,0 +1,217 @@
+// Turns samples into points and triangle strips.
+#pragma once
+
+#include "measurement/HeightRange.h"
+#include "measurement/SurfaceGrid.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include <vtkFloatArray.h>
+#include <vtkNew.h>
+#include <vtkSmartPointer.h>
+#include <vtkTypeInt32Array.h>
+
+class vtkPolyData;
+
+// The drawn form of a surface. Every sample is a point, missing ones too, to which no triangle
+// refers. A cell of four valid samples i, i + 1, i + columns, i + columns + 1 is two triangles. The
+// grid is cut into square tiles; all cells of a tile are one strip, in which repeated indices
+// (triangles without area) lead from one run of cells to the next. That costs hardly more than two
+// indices a cell, and the strips can be given to OpenGL as they are.
+struct SurfaceMesh
+{
+    vtkSmartPointer<vtkPolyData> PolyData;
+    // One for each strip: a box around what it draws.
+    std::vector<SurfaceBox> StripBoxes;
+    // Around everything that is drawn.
+    SurfaceBox Bounds;
+    // The raw heights that are drawn.
+    HeightRange Heights;
+    // Samples in no cell that are drawn as quads. The four points of the quads follow the samples'
+    // points.
+    std::vector<int32_t> Isolated;
+};
+
+// Repeats the values of isolated samples for the corners of their quads, so that there is a value
+// for each point of the mesh. Without such samples it is the same array again.
+template <class Value>
+std::shared_ptr<const Value[]> PerPoint(std::shared_ptr<const Value[]> samples, size_t count,
+                                        const std::vector<int32_t>& isolated)
+{
+    if (isolated.empty())
+    {
+        return samples;
+    }
+    auto values = std::make_shared_for_overwrite<Value[]>(count + 4 * isolated.size());
+    Value* end = std::copy_n(samples.get(), count, values.get());
+    for (const int32_t sample : isolated)
+    {
+        end = std::fill_n(end, 4, samples[sample]);
+    }
+    return values;
+}
+
+// The samples that belong to no cell and are to be drawn all the same, in row order. The choice has
+// a gap that pictures rely on: at the right edge a sample is left out if its left neighbour is
+// isolated as well. Throws std::bad_alloc.
+std::vector<int32_t> FindIsolatedSamples(const int16_t* heights, const SurfaceGrid& grid);
+
+// Collects strips; the mesh is complete after Finish.
+class StripWriter
+{
+public:
+    // `expected` indices are the first guess, more are no error.
+    StripWriter(SurfaceMesh& mesh, int64_t expected);
+
+    // Continues the present strip with a band of triangles between two rows of points: `pairs`
+    // points of one row from index `first` on, `step` apart, each with its counterpart in the other
+    // row, `across` further on.
+    void AddBand(int32_t first, int32_t pairs, int32_t step, int32_t across);
+    // Ends the present strip, which fills the box. Nothing happens if it is still empty.
+    void EndStrip(const SurfaceBox& box);
+    void Finish(vtkFloatArray* coordinates);
+
+private:
+    SurfaceMesh& Mesh;
+    vtkNew<vtkTypeInt32Array> Offsets;
+    vtkNew<vtkTypeInt32Array> Indices;
+    vtkIdType StripBegin = 0;
+};
+
+template <class Samples>
+class SurfaceMeshBuilder
+{
+public:
+    SurfaceMeshBuilder(const Samples& samples, const SurfaceGrid& grid)
+        : Source(samples), Grid(grid), Strips(Mesh, 21 * grid.GetCount() / 10)
+    {
+    }
+
+    // Throws std::bad_alloc.
+    SurfaceMesh Build(bool withIsolated)
+    {
+        if (withIsolated)
+        {
+            Mesh.Isolated = FindIsolatedSamples(Source.Heights.get(), Grid);
+        }
+        const auto isolated = static_cast<int64_t>(Mesh.Isolated.size());
+        if (Grid.GetCount() + 4 * isolated > MaxSurfacePoints)
+        {
+            throw std::bad_alloc();
+        }
+        Coordinates->SetNumberOfComponents(3);
+        Coordinates->SetNumberOfTuples(Grid.GetCount() + 4 * isolated);
+
+        AddPoints();
+        for (int32_t row = 0; row < Grid.Rows - 1; row += TileSize)
+        {
+            for (int32_t column = 0; column < Grid.Columns - 1; column += TileSize)
+            {
+                AddTile(row, std::min(row + TileSize, Grid.Rows - 1), column,
+                        std::min(column + TileSize, Grid.Columns - 1));
+            }
+        }
+        AddQuads();
+        Strips.Finish(Coordinates);
+        return std::move(Mesh);
+    }
+
+private:
+    // In cells. Small enough that zooming and picking skip most of a surface and that two rows of a
+    // tile stay in the vertex cache, large enough that a strip is worth a draw.
+    static constexpr int32_t TileSize = 64;
+    static constexpr size_t QuadsPerStrip = 1024;
+
+    void AddPoints()
+    {
+        const typename Samples::RowWriter writeRow(Source, Grid);
+        for (int32_t row = 0; row < Grid.Rows; ++row)
+        {
+            writeRow(row, PointAt(int64_t{row} * Grid.Columns));
+        }
+    }
+
+    // The cells between the given rows and columns of samples.
+    void AddTile(int32_t firstRow, int32_t lastRow, int32_t firstColumn, int32_t lastColumn)
+    {
+        RawBox box;
+        for (int32_t row = firstRow; row < lastRow; ++row)
+        {
+            const int32_t begin = row * Grid.Columns;
+            const int16_t* upper = &Source.Heights[begin];
+            const int16_t* lower = upper + Grid.Columns;
+            for (int32_t column = firstColumn; column <= lastColumn;)
+            {
+                const int32_t first = column;
+                while (column <= lastColumn && upper[column] != InvalidHeight &&
+                       lower[column] != InvalidHeight)
+                {
+                    ++column;
+                }
+                if (column - first > 1)
+                {
+                    Strips.AddBand(begin + first, column - first, 1, Grid.Columns);
+                    Source.Extend(box, Grid, row, first, column - 1);
+                    Source.Extend(box, Grid, row + 1, first, column - 1);
+                }
+                ++column;
+            }
+        }
+        if (!box.IsEmpty())
+        {
+            IncludeHeights(box.Lowest[2], box.Highest[2]);
+            Strips.EndStrip(SurfaceBox(Grid, box));
+        }
+    }
+
+    void AddQuads()
+    {
+        const std::array<double, 2> half = Source.GetQuadHalfSize(Grid);
+        auto first = static_cast<int32_t>(Grid.GetCount());
+        for (size_t i = 0; i < Mesh.Isolated.size(); i += QuadsPerStrip)
+        {
+            SurfaceBox box;
+            const size_t end = std::min(i + QuadsPerStrip, Mesh.Isolated.size());
+            for (size_t k = i; k < end; ++k, first += 4)
+            {
+                const int32_t sample = Mesh.Isolated[k];
+                AddQuad(PointAt(sample), half, PointAt(first), box);
+                Strips.AddBand(first, 2, 2, 1);
+                IncludeHeights(Source.Heights[sample], Source.Heights[sample]);
+            }
+            Strips.EndStrip(box);
+        }
+    }
+
+    static void AddQuad(const float* centre, const std::array<double, 2>& half, float* corner,
+                        SurfaceBox& box)
+    {
+        for (const double x : {-half[0], half[0]})
+        {
+            for (const double y : {-half[1], half[1]})
+            {
+                corner[0] = Samples::Shift(centre[0], x);
+                corner[1] = Samples::Shift(centre[1], y);
+                corner[2] = centre[2];
+                box.Include(corner);
+                corner += 3;
+            }
+        }
+    }
+
+    void IncludeHeights(int32_t lowest, int32_t highest)
+    {
+        Mesh.Heights.Minimum = std::min(Mesh.Heights.Minimum, static_cast<int16_t>(lowest));
+        Mesh.Heights.Maximum = std::max(Mesh.Heights.Maximum, static_cast<int16_t>(highest));
+    }
+
+    float* PointAt(int64_t index) { return Coordinates->GetPointer(3 * index); }
+
+    const Samples& Source;
+    const SurfaceGrid& Grid;
+    SurfaceMesh Mesh;
+    StripWriter Strips;
+    vtkNew<vtkFloatArray> Coordinates;
+};
