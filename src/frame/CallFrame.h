@@ -3,6 +3,7 @@
 //   OnManager   what concerns no single view
 //   OnView      a method of the view that the id names
 //   OnElement   a method of an element of that view, with type test and render rule
+//   OnColoring  the same, and the scalar bar of the element takes its new colours
 //   OnAdd       a new 3D element: the add sequence, with the defaults of its type
 //   NotBuilt    declared, exported and answered, but without its feature yet
 #pragma once
@@ -59,6 +60,20 @@ int32_t OnElement(int32_t windowId, int32_t elementId, Render render,
         [&](CWindow& view)
         {
             return view.OnElement<Class>(
+                elementId, render, [&](Class& element) { return (element.*method)(arguments...); });
+        });
+}
+
+// As OnElement, for calls that may replace the colour table of a surface.
+template <class Class, class... Parameters, class... Arguments>
+int32_t OnColoring(int32_t windowId, int32_t elementId, Render render,
+                   int32_t (Class::*method)(Parameters...), Arguments... arguments)
+{
+    return OnViewDo<CWindow>(
+        windowId,
+        [&](CWindow& view)
+        {
+            return view.OnColoring<Class>(
                 elementId, render, [&](Class& element) { return (element.*method)(arguments...); });
         });
 }

@@ -35,13 +35,23 @@ public:
     int32_t AddIntensity(const uint8_t* values, int32_t columns, int32_t rows);
     // Does not render.
     int32_t ShowIntensity(bool show);
-    // True: full cells only. False: also samples in no full cell. Rebuilds the picture, shows a
-    // hidden surface and renders.
+    // True: full cells only. False: also samples in no full cell. Rebuilds the picture and shows a
+    // hidden surface. Does not render.
     int32_t SetRepresentationMode(bool fullCellsOnly);
     int32_t GetRepresentationMode(uint8_t* fullCellsOnly);
     // Takes the colours of a palette, without storing it as the palette of the surface.
     int32_t ApplyPalette(int32_t palette);
-    int32_t ConnectScalarBar(vtkScalarBarActor* bar);
+    int32_t ConnectScalarBar(vtkScalarBarActor* bar) override;
+
+    // The palette of the channel that is shown: heights and intensities have one each.
+    int32_t SetPalette(uint32_t palette);
+    int32_t GetPaletteInForce(uint32_t* palette);
+    // The range of values that the palette spans. Automatic: the heights without `percent` of the
+    // samples at each end; else `min` to `max`, in height units or, while intensity is shown, in
+    // its whole levels. What does not apply is not tested.
+    int32_t SetZScaling(bool autoScale, double percent, double min, double max);
+    // The percentage and the fixed range of heights, also while another range is in force.
+    int32_t GetZScaling(uint8_t* autoScale, double* percent, double* min, double* max);
 
     // The background is the colour of missing values in the lookup table.
     int32_t SetBackgroundColor(double red, double green, double blue) override;
@@ -57,8 +67,8 @@ protected:
 
     int32_t InitializeFrom(const ElementSite& site, const Source& source,
                            const uint8_t* intensities, const SurfaceGrid& grid, bool fullCellsOnly);
-    // Rebuilds the picture from new values, shows a hidden surface and renders. If all samples are
-    // missing, the new values are stored but the old picture stays.
+    // Rebuilds the picture from new values and shows a hidden surface. If all samples are missing,
+    // the new values are stored but the old picture stays. Does not render.
     int32_t SetValueFrom(const Source& source, const uint8_t* intensities, const SurfaceGrid& grid);
 
 private:
@@ -90,8 +100,12 @@ private:
     void SetRange(SurfaceMapper& mapper, const Data& data, const HeightRange& range,
                   Channel channel) const;
     vtkSmartPointer<vtkLookupTable> MakeLookupTable(int32_t palette) const;
-    // Puts a finished pipeline in the place of the present one; renders.
-    int32_t ShowPipeline(Pipeline pipeline);
+    // Puts a finished pipeline in the place of the present one, into the scene.
+    int32_t TakePipeline(Pipeline pipeline);
+    int32_t SetAutoScale(double percent);
+    // Brings the stored range onto the present picture.
+    void ApplyRange();
+    static uint8_t RoundToByte(double value);
     // Brings stored values and channel onto the present picture.
     int32_t UpdateScalars();
 

@@ -1,4 +1,5 @@
-// The members of CElement_Surface, for the files that instantiate it.
+// The members of CElement_Surface that hold values and picture, for the files that instantiate it;
+// those that colour are in CElement_SurfaceColoring.hxx.
 #pragma once
 
 #include "measurement/CElement_Surface.h"
@@ -6,17 +7,15 @@
 #include "Tarvex.h"
 #include "frame/ElementDefaults.h"
 #include "frame/NumberTest.h"
-#include "measurement/Palettes.h"
+#include "measurement/CElement_SurfaceColoring.hxx"
 #include "measurement/SurfaceMapper.h"
 #include "measurement/SurfaceMesh.h"
 
 #include <algorithm>
 #include <new>
 
-#include <vtkLookupTable.h>
 #include <vtkProperty.h>
 #include <vtkRenderer.h>
-#include <vtkScalarBarActor.h>
 
 template <class Samples>
 CElement_Surface<Samples>::CElement_Surface() : CElement_Scene(Type), IntensityPalette(GreyPalette)
@@ -173,7 +172,7 @@ int32_t CElement_Surface<Samples>::SetValueFrom(const Source& source, const uint
     IntensityMin = 0;
     IntensityMax = 255;
     IsPictureOfData = status == STATUS_OK;
-    return status == STATUS_OK ? ShowPipeline(std::move(pipeline)) : status;
+    return status == STATUS_OK ? TakePipeline(std::move(pipeline)) : status;
 }
 
 template <class Samples>
@@ -194,7 +193,7 @@ int32_t CElement_Surface<Samples>::SetRepresentationMode(bool fullCellsOnly)
     }
     FullCellsOnly = fullCellsOnly;
     IsPictureOfData = true;
-    return ShowPipeline(std::move(pipeline));
+    return TakePipeline(std::move(pipeline));
 }
 
 template <class Samples>
@@ -231,73 +230,7 @@ auto CElement_Surface<Samples>::MakePipeline(const Data& data, const HeightRange
 }
 
 template <class Samples>
-void CElement_Surface<Samples>::SetLevels(SurfaceMapper& mapper, const Data& data,
-                                          Channel channel) const
-{
-    const SurfaceMesh& mesh = mapper.GetMesh();
-    const auto count = static_cast<size_t>(data.Grid.GetCount());
-    SurfaceLevels levels;
-    if (channel == Channel::Intensity)
-    {
-        levels.Intensities = PerPoint(data.Intensities, count, mesh.Isolated);
-        levels.Highest = 255;
-    }
-    else
-    {
-        levels.Heights = PerPoint(data.Values.Heights, count, mesh.Isolated);
-        levels.Lowest = mesh.Heights.Minimum;
-        levels.Highest = mesh.Heights.Maximum;
-        levels.Scale = data.Grid.Scale[2];
-        levels.Offset = data.Grid.Offset[2];
-    }
-    mapper.SetLevels(std::move(levels));
-}
-
-template <class Samples>
-void CElement_Surface<Samples>::SetRange(SurfaceMapper& mapper, const Data& data,
-                                         const HeightRange& range, Channel channel) const
-{
-    if (channel == Channel::Intensity)
-    {
-        mapper.SetScalarRange(IntensityMin, IntensityMax);
-    }
-    else if (AutoScale)
-    {
-        mapper.SetScalarRange(data.Grid.Place(2, range.Minimum), data.Grid.Place(2, range.Maximum));
-    }
-    else
-    {
-        mapper.SetScalarRange(FixedMin, FixedMax);
-    }
-}
-
-template <class Samples>
-vtkSmartPointer<vtkLookupTable> CElement_Surface<Samples>::MakeLookupTable(int32_t palette) const
-{
-    const PaletteTable colors = GetPaletteTable(palette, {Color[0], Color[1], Color[2]});
-    const double alpha = 1.0 - Transparency;
-    auto table = vtkSmartPointer<vtkLookupTable>::New();
-    table->SetNumberOfTableValues(PaletteEntries);
-    table->Build();
-    for (int32_t i = 0; i < PaletteEntries; ++i)
-    {
-        const PaletteColor& color = colors[static_cast<size_t>(i)];
-        table->SetTableValue(i, color[0] / 255.0, color[1] / 255.0, color[2] / 255.0, alpha);
-    }
-    table->SetNanColor(BackgroundColor[0], BackgroundColor[1], BackgroundColor[2], 1.0);
-    double end[4];
-    table->GetTableValue(PaletteEntries - 1, end);
-    table->SetAboveRangeColor(end);
-    table->UseAboveRangeColorOn();
-    table->GetTableValue(0, end);
-    table->SetBelowRangeColor(end);
-    table->UseBelowRangeColorOn();
-    table->BuildSpecialColors();
-    return table;
-}
-
-template <class Samples>
-int32_t CElement_Surface<Samples>::ShowPipeline(Pipeline pipeline)
+int32_t CElement_Surface<Samples>::TakePipeline(Pipeline pipeline)
 {
     if (Actor && Renderer)
     {
@@ -306,23 +239,7 @@ int32_t CElement_Surface<Samples>::ShowPipeline(Pipeline pipeline)
     // The old picture gives its memory back before the new one needs the same on the graphics side.
     Mapper = std::move(pipeline.Mapper);
     Actor = std::move(pipeline.Actor);
-    return Show(true);
-}
-
-template <class Samples>
-int32_t CElement_Surface<Samples>::UpdateScalars()
-{
-    if (!Mapper || (Shown == Channel::Intensity && !Held.Intensities))
-    {
-        return STATUS_NOT_READY;
-    }
-    if (IsPictureOfData)
-    {
-        auto& mapper = static_cast<SurfaceMapper&>(*Mapper);
-        SetLevels(mapper, Held, Shown);
-        SetRange(mapper, Held, Range, Shown);
-    }
-    return STATUS_OK;
+    return SetInScene(true);
 }
 
 template <class Samples>
@@ -358,95 +275,6 @@ int32_t CElement_Surface<Samples>::AddIntensity(const uint8_t* values, int32_t c
 }
 
 template <class Samples>
-int32_t CElement_Surface<Samples>::ShowIntensity(bool show)
-{
-    if (show && !Held.Intensities)
-    {
-        return STATUS_NOT_READY;
-    }
-    const Channel previous = Shown;
-    try
-    {
-        Shown = show ? Channel::Intensity : Channel::Height;
-        const vtkSmartPointer<vtkLookupTable> table = MakeLookupTable(GetPalette(Shown));
-        const int32_t status = UpdateScalars();
-        if (Mapper)
-        {
-            Mapper->SetLookupTable(table);
-        }
-        return status;
-    }
-    catch (const std::bad_alloc&)
-    {
-        Shown = previous;
-        return STATUS_OUT_OF_MEMORY;
-    }
-}
-
-template <class Samples>
-int32_t CElement_Surface<Samples>::ApplyPalette(int32_t palette)
-{
-    if (!IsPalette(palette))
-    {
-        return STATUS_OUT_OF_RANGE;
-    }
-    if (!Mapper)
-    {
-        return STATUS_NOT_READY;
-    }
-    Mapper->SetLookupTable(MakeLookupTable(palette));
-    return STATUS_OK;
-}
-
-template <class Samples>
-int32_t CElement_Surface<Samples>::ConnectScalarBar(vtkScalarBarActor* bar)
-{
-    if (!bar)
-    {
-        return STATUS_NULL_ARGUMENT;
-    }
-    if (!Actor)
-    {
-        return STATUS_NOT_READY;
-    }
-    bar->SetLookupTable(Mapper->GetLookupTable());
-    return STATUS_OK;
-}
-
-template <class Samples>
-int32_t CElement_Surface<Samples>::SetBackgroundColor(double red, double green, double blue)
-{
-    CElement_Scene::SetBackgroundColor(red, green, blue);
-    ApplyPalette(GetPalette(Shown));
-    return STATUS_OK;
-}
-
-template <class Samples>
-int32_t CElement_Surface<Samples>::SetTransparency(double transparency)
-{
-    if (IsOutside(transparency, 0.0, 1.0))
-    {
-        return STATUS_OUT_OF_RANGE;
-    }
-    Transparency = transparency;
-    ApplyPalette(GetPalette(Shown));
-    return STATUS_OK;
-}
-
-template <class Samples>
-int32_t CElement_Surface<Samples>::SetColor(uint8_t red, uint8_t green, uint8_t blue)
-{
-    Color[0] = red;
-    Color[1] = green;
-    Color[2] = blue;
-    if (GetPalette(Shown) == SingleColorPalette)
-    {
-        ApplyPalette(SingleColorPalette);
-    }
-    return STATUS_OK;
-}
-
-template <class Samples>
 int32_t CElement_Surface<Samples>::GetBounds(bool widen, double* xmin, double* xmax, double* ymin,
                                              double* ymax, double* zmin, double* zmax)
 {
@@ -464,13 +292,7 @@ int32_t CElement_Surface<Samples>::GetBounds(bool widen, double* xmin, double* x
     *zmax = AutoScale ? Held.Grid.Place(2, Range.Maximum) : FixedMax;
     if (widen)
     {
-        const double side = ((*xmax - *xmin) + (*ymax - *ymin)) * 0.5;
-        if (side * 0.3 > *zmax - *zmin)
-        {
-            // The second mean is that of the lowered minimum: hosts know the lopsided frame.
-            *zmin = (*zmin + *zmax) * 0.5 - side * 0.15;
-            *zmax = (*zmin + *zmax) * 0.5 + side * 0.15;
-        }
+        WidenFlatRange(((*xmax - *xmin) + (*ymax - *ymin)) * 0.5, zmin, zmax);
     }
     return STATUS_OK;
 }

@@ -73,3 +73,13 @@ int32_t FindHeightRange(const int16_t* heights, size_t count, double clipPercent
     }
     return STATUS_OK;
 }
+
+void WidenFlatRange(double extent, double* lowest, double* highest)
+{
+    if (extent * 0.3 > *highest - *lowest)
+    {
+        // The second mean is that of the lowered minimum: hosts know the lopsided frame.
+        *lowest = (*lowest + *highest) * 0.5 - extent * 0.15;
+        *highest = (*lowest + *highest) * 0.5 + extent * 0.15;
+    }
+}

@@ -19,6 +19,10 @@ struct HeightRange
 int32_t FindHeightRange(const int16_t* heights, size_t count, double clipPercent,
                         HeightRange& range);
 
+// Makes room above and below a range that is flat beside the extent of the data in the plane, so
+// that a scale frame around it can be read.
+void WidenFlatRange(double extent, double* lowest, double* highest);
+
 // Lowest and highest of a few neighbouring heights, all valid. At least one.
 inline HeightRange FindRangeOfValid(const int16_t* heights, size_t count)
 {

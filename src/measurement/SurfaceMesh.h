@@ -168,6 +168,10 @@ private:
 
     void AddQuads()
     {
+        if (Mesh.Isolated.empty())
+        {
+            return;
+        }
         const std::array<double, 2> half = Source.GetQuadHalfSize(Grid);
         auto first = static_cast<int32_t>(Grid.GetCount());
         for (size_t i = 0; i < Mesh.Isolated.size(); i += QuadsPerStrip)
