@@ -54,6 +54,26 @@ TARVEX_API int32_t TarvexExt_Window2D_CopyImage(int32_t windowId, uint8_t* rgb, 
                                                 int32_t* width, int32_t* height);
 
 /**
+ * Holds back the renders of a 3D view, so that a host can fill or change a scene without a picture
+ * for each call. Until the matching TarvexExt_Window_EndUpdate nothing of the view renders, also not
+ * for mouse or window events; every status and getter is as without it. Updates nest. Deleting the
+ * view or unloading with an update open is fine. Does not render.
+ *
+ * @param[in] windowId The view.
+ * @return STATUS_OK; the common statuses of Tarvex.h.
+ */
+TARVEX_API int32_t TarvexExt_Window_BeginUpdate(int32_t windowId);
+
+/**
+ * Ends what TarvexExt_Window_BeginUpdate began. The last end renders once if anything asked for a
+ * picture in between.
+ *
+ * @param[in] windowId The view.
+ * @return STATUS_OK; STATUS_NOT_READY when no update is open; the common statuses of Tarvex.h.
+ */
+TARVEX_API int32_t TarvexExt_Window_EndUpdate(int32_t windowId);
+
+/**
  * The version of the library, for example "0.1.0". The text is static. Usable at any time.
  */
 TARVEX_API const char* TarvexExt_GetVersion(void);

@@ -27,6 +27,16 @@ int32_t TarvexExt_Window2D_CopyImage(int32_t windowId, uint8_t*, int32_t, int32_
     return NotBuilt<CWindow2D>(windowId);
 }
 
+int32_t TarvexExt_Window_BeginUpdate(int32_t windowId)
+{
+    return OnView(windowId, &CWindow::BeginUpdate);
+}
+
+int32_t TarvexExt_Window_EndUpdate(int32_t windowId)
+{
+    return OnView(windowId, &CWindow::EndUpdate);
+}
+
 const char* TarvexExt_GetVersion(void)
 {
     return TARVEX_VERSION;

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 vtkStandardNewMacro(CXRenderWindow);
@@ -255,8 +256,26 @@ void CXRenderWindow::Frame()
     }
 }
 
+bool CXRenderWindow::ReleaseRenders()
+{
+    if (Holds == 0)
+    {
+        return false;
+    }
+    if (--Holds == 0 && std::exchange(RenderHeld, false))
+    {
+        Render();
+    }
+    return true;
+}
+
 void CXRenderWindow::Render()
 {
+    if (Holds > 0)
+    {
+        RenderHeld = true;
+        return;
+    }
     XErrorTrap trap;
     if (!WindowId)
     {

@@ -24,6 +24,9 @@ public:
     // The host or the window manager gave the native window another size.
     void TakeNativeSize(int width, int height);
 
+    void HoldRenders() { ++Holds; }
+    bool ReleaseRenders();
+
     void GetPictureSize(int32_t* width, int32_t* height);
     bool CopyPicture(uint8_t* rgb);
 
@@ -60,5 +63,7 @@ private:
     std::shared_ptr<XConnection> Connection;
     Window Native = 0; // as WindowId, but ours to destroy
     bool Lost = false;
+    int Holds = 0;
+    bool RenderHeld = false;     // asked for while held
     int PictureSize[2] = {0, 0}; // 0, 0 before the first render
 };

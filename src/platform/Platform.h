@@ -37,6 +37,11 @@ void GetPictureSize(vtkRenderWindow* window, int32_t* width, int32_t* height);
 // for 3 * width * height bytes of GetPictureSize. False: the pixels could not be read.
 bool CopyPicture(vtkRenderWindow* window, uint8_t* rgb);
 
+// Holds back the renders of a window until each hold was released; the last release renders once if
+// a render was asked for in between. False: there was nothing to release.
+void HoldRenders(vtkRenderWindow* window);
+bool ReleaseRenders(vtkRenderWindow* window);
+
 // One step of the event pump runs one action; the caller wraps it in lock and guard.
 using EventStep = std::function<void(const std::function<void()>& action)>;
 // Handles the events that wait at this moment, without waiting for more, then renders each view

@@ -143,6 +143,16 @@ bool CopyPicture(vtkRenderWindow* window, uint8_t* rgb)
     return CXRenderWindow::SafeDownCast(window)->CopyPicture(rgb);
 }
 
+void HoldRenders(vtkRenderWindow* window)
+{
+    CXRenderWindow::SafeDownCast(window)->HoldRenders();
+}
+
+bool ReleaseRenders(vtkRenderWindow* window)
+{
+    return CXRenderWindow::SafeDownCast(window)->ReleaseRenders();
+}
+
 int GetEventDescriptor()
 {
     const std::shared_ptr<XConnection> connection = XConnection::Acquire();

@@ -4,6 +4,7 @@
 #include "platform/Platform.h"
 #include "view3d/CCoordinateAxes.h"
 #include "view3d/CCubeAxesActor.h"
+#include "view3d/CSceneRenderer.h"
 
 #include <vtkOrientationMarkerWidget.h>
 #include <vtkScalarBarActor.h>
@@ -53,7 +54,7 @@ int32_t CWindow::Create(bool noBorders, void* parentWindow, int32_t x, int32_t y
         LastError,
         [&]() -> int32_t
         {
-            Renderer = vtkSmartPointer<vtkRenderer>::New();
+            Renderer = vtkSmartPointer<CSceneRenderer>::New();
             Renderer->SetBackground(0.0, 0.0, 0.0);
             RenderWindow = Platform::NewRenderWindow();
             if (noBorders)
@@ -128,6 +129,23 @@ int32_t CWindow::SetBackgroundColor(uint8_t red, uint8_t green, uint8_t blue)
             RenderWindow->Render();
             return status;
         });
+}
+
+int32_t CWindow::BeginUpdate()
+{
+    return WhenReady(
+        [&]() -> int32_t
+        {
+            Platform::HoldRenders(RenderWindow);
+            return STATUS_OK;
+        });
+}
+
+int32_t CWindow::EndUpdate()
+{
+    return WhenReady(
+        [&]() -> int32_t
+        { return Platform::ReleaseRenders(RenderWindow) ? STATUS_OK : STATUS_NOT_READY; });
 }
 
 int32_t CWindow::RegisterCallback_ElementAdded(Tarvex_ElementAddedCallback callback)

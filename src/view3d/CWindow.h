@@ -52,6 +52,10 @@ public:
 
     int32_t UpdateSize(int32_t x, int32_t y, int32_t width, int32_t height);
     int32_t SetBackgroundColor(uint8_t red, uint8_t green, uint8_t blue);
+    // Between them nothing of this view renders; they nest. The last EndUpdate renders once if
+    // anything asked for it. STATUS_NOT_READY for an end without a beginning.
+    int32_t BeginUpdate();
+    int32_t EndUpdate();
     int32_t RegisterCallback_ElementAdded(Tarvex_ElementAddedCallback callback);
     int32_t RegisterCallback_ElementDragged(Tarvex_ElementDraggedCallback callback);
     int32_t CopyImage(uint8_t* rgb, int32_t capacity, int32_t* width, int32_t* height);
