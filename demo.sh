@@ -3,8 +3,8 @@
 #
 #   ./demo.sh                     the laser scan in a window; without a display: pictures
 #   ./demo.sh FILE [OPTION..]     another file, with options of the viewer
-#   ./demo.sh --pictures [FILE..] pictures in demo-pictures/ and no window, of four measurements
-#                                 or of the given file
+#   ./demo.sh --pictures [FILE..] pictures in demo-pictures/ and no window: of four measurements
+#                                 or of the given file, with options of the viewer
 set -euo pipefail
 
 force_pictures=no
@@ -12,10 +12,15 @@ case ${1:-} in
   -h | --help) sed -n '2,/^set /{s/^#\( \|$\)//p}' "$0"; exit 0 ;;
   --pictures) force_pictures=yes; shift ;;
 esac
-# A path on the command line is meant from where the caller stands.
-if [[ $# -gt 0 && -e $1 ]]; then
-  set -- "$(realpath -- "$1")" "${@:2}"
-fi
+# Paths on the command line are meant from where the caller stands.
+arguments=()
+for argument in "$@"; do
+  if [[ -e $argument ]]; then
+    argument=$(realpath -- "$argument")
+  fi
+  arguments+=("$argument")
+done
+set -- "${arguments[@]}"
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
 readonly data=examples/data
@@ -26,29 +31,13 @@ readonly laser_scan=("$data/cylinder1.png" --x-scale 0.1 --y-scale 0.1 --z-scale
 # What the viewer answers when it has no display to open a window on.
 readonly no_display=2
 
-# An X server of our own, in memory. It picks a free display number and tells it on its output.
-start_x_server() {
-  local server number
-  coproc XVFB { exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -noreset -nolisten tcp 2>/dev/null; }
-  # Kept, because bash forgets the variable when the process ends.
-  server=$XVFB_PID
-  # shellcheck disable=SC2064
-  trap "kill $server 2>/dev/null || true" EXIT
-  if ! read -r -t 30 number <&"${XVFB[0]}"; then
-    echo "demo.sh: Xvfb does not start" >&2
-    exit 1
-  fi
-  export DISPLAY=":$number"
-}
-
 save() { # NAME FILE [OPTION..]
-  "$viewer" "${@:2}" --print --screenshot "$pictures/$1.png"
+  scripts/with-xvfb.sh "$viewer" "${@:2}" --print --screenshot "$pictures/$1.png"
   echo "saved $PWD/$pictures/$1.png"
   echo
 }
 
 save_pictures() { # [FILE [OPTION..]]
-  start_x_server
   mkdir -p "$pictures"
   if [[ $# -gt 0 ]]; then
     save "$(basename -- "$1")" "$@"
@@ -60,7 +49,7 @@ save_pictures() { # [FILE [OPTION..]]
   save interferometer "$data/wli_height.i16" --intensity "$data/wli_intensity8.pgm"
 }
 
-./install-packages.sh
+scripts/install-packages.sh
 cmake --preset release
 cmake --build --preset release --target tarvex_viewer
 echo

@@ -57,6 +57,7 @@ int main(int argc, char** argv)
     Atom delete_message = XInternAtom(display, "WM_DELETE_WINDOW", False);
     XSetWMProtocols(display, window, &delete_message, 1);
     XSelectInput(display, window, KeyPressMask | StructureNotifyMask);
+    XStoreName(display, window, "minimal");
     XMapWindow(display, window);
     XSync(display, False); /* the library has a connection of its own and has to find the window */
 

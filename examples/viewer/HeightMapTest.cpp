@@ -201,6 +201,9 @@ TEST_F(Files, DamagedIntensityPicturesAreRefused)
     const std::string good = "P5 # a comment\n2 2\n# another\n255\n";
     LoadIntensity(Write("good.pgm", good + "\x01\xff\x03\x04"), map);
     EXPECT_EQ(map.Intensities, (std::vector<uint8_t>{1, 255, 3, 4}));
+    LoadIntensity(Write("dark.pgm", good + "\x01\x02\x03\x01"), map);
+    SpreadIntensities(map);
+    EXPECT_EQ(map.Intensities, (std::vector<uint8_t>{0, 127, 255, 0}));
     for (const std::string bad :
          {"P5 2 2 255\n123", "P5 2 2 65535\n12345678", "P2 2 2 255\n1 2 3 4", "P5 2 2",
           "P5 -2 -2 255\n1234", "P5 99999999999 2 255\n1234", "P5 60000 60000 255\n1234", ""})

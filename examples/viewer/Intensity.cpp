@@ -2,6 +2,7 @@
 
 #include "PngFile.h"
 
+#include <algorithm>
 #include <cctype>
 #include <fstream>
 #include <stdexcept>
@@ -99,4 +100,19 @@ void LoadIntensity(const std::filesystem::path& path, HeightMap& map)
                                 std::to_string(map.Columns) + " x " + std::to_string(map.Rows));
     }
     map.Intensities.assign(picture.Samples.begin(), picture.Samples.end());
+}
+
+void SpreadIntensities(HeightMap& map)
+{
+    if (map.Intensities.empty())
+    {
+        return;
+    }
+    const auto [low, high] = std::minmax_element(map.Intensities.begin(), map.Intensities.end());
+    const int32_t darkest = *low;
+    const int32_t range = std::max(1, *high - darkest);
+    for (uint8_t& intensity : map.Intensities)
+    {
+        intensity = static_cast<uint8_t>((intensity - darkest) * 255 / range);
+    }
 }

@@ -76,19 +76,10 @@ void SurfaceView::Show(const HeightMap& map, const HeightStatistics& statistics,
               map.ZOffset * look.Exaggeration,
               look.IsolatedSamples ? TARVEX_MESH_CELLS_AND_POINTS : TARVEX_MESH_CELLS, &Surface),
           "Tarvex_Element_Add_SurfaceUniform");
-    if (look.Palette != TARVEX_PALETTE_RAINBOW)
-    {
-        Check(Tarvex_Element_SetPalette_SurfaceUniform(Id, Surface, look.Palette),
-              "Tarvex_Element_SetPalette_SurfaceUniform");
-    }
     HasIntensities = intensities;
     IntensityShown = false;
     if (HasIntensities)
     {
-        const auto [darkest, brightest] =
-            std::minmax_element(map.Intensities.begin(), map.Intensities.end());
-        LowestIntensity = *darkest;
-        HighestIntensity = *brightest;
         UseIntensity(true);
     }
     Frame();
@@ -202,14 +193,6 @@ void SurfaceView::UseIntensity(bool show)
     Check(Tarvex_Element_ShowIntensity_SurfaceUniform(Id, Surface, show ? 1 : 0),
           "Tarvex_Element_ShowIntensity_SurfaceUniform");
     IntensityShown = show;
-    // Cameras seldom use all of 0 to 255: spread what there is. One call serves both channels, so
-    // the automatic range of the heights has to be switched on again on the way back.
-    if (!show || HighestIntensity > LowestIntensity)
-    {
-        Check(Tarvex_Element_ZScalingPalette_SurfaceUniform(Id, Surface, show ? 0 : 1, 0.0,
-                                                            LowestIntensity, HighestIntensity),
-              "Tarvex_Element_ZScalingPalette_SurfaceUniform");
-    }
 }
 
 RgbPicture SurfaceView::Picture() const

@@ -26,7 +26,6 @@ struct SurfaceLook
 {
     double Exaggeration = 1.0;   // factor on all heights
     bool IsolatedSamples = true; // draw also samples that lie in no complete cell
-    uint32_t Palette = 0;        // number of one of the library's palettes
 };
 
 // One 3D view of the library in a host's window, showing one surface and a few marks on it: its
@@ -63,7 +62,5 @@ private:
     bool Parallel = false;
     bool Zoomed = false; // Frame has run
     bool IntensityShown = false;
-    uint8_t LowestIntensity = 0;
-    uint8_t HighestIntensity = 0;
     bool HasIntensities = false;
 };

@@ -44,7 +44,6 @@ struct Options
     std::string Exaggeration = "auto";
     std::string MissingCount = "0";
     LoadOptions Load;
-    uint32_t Palette = 0;
     bool Print = false;
 };
 
@@ -72,9 +71,6 @@ void Declare(CLI::App& app, Options& options)
         ->check(CLI::IsMember({"full", "points"}))
         ->capture_default_str();
     app.add_option("--z-exaggeration", options.Exaggeration, "factor on the heights, or auto")
-        ->capture_default_str();
-    app.add_option("--palette", options.Palette, "colours of the heights")
-        ->check(CLI::Range(0, 6))
         ->capture_default_str();
     app.add_option("--x-scale", options.Load.XScale, "distance of columns, instead of the file's");
     app.add_option("--y-scale", options.Load.YScale, "distance of rows, instead of the file's");
@@ -143,8 +139,13 @@ Scene Load(const std::string& file, const Options& options)
     if (!options.Intensity.empty())
     {
         LoadIntensity(options.Intensity, scene.Map);
+        SpreadIntensities(scene.Map);
     }
+    ChooseUnit(scene.Map);
     scene.Statistics = DescribeHeights(scene.Map);
+    scene.Look.IsolatedSamples = options.Mode == "points";
+    scene.Look.Exaggeration =
+        ToNumber(options.Exaggeration).value_or(ChooseExaggeration(scene.Map, scene.Statistics));
     const HeightMap& map = scene.Map;
     if (options.Print)
     {
@@ -158,14 +159,6 @@ Scene Load(const std::string& file, const Options& options)
                     map.Height(scene.Statistics.Lowest), map.Unit.c_str(), scene.Statistics.Lowest,
                     map.Height(scene.Statistics.Highest), map.Unit.c_str(),
                     scene.Statistics.Highest);
-    }
-    ChooseUnit(scene.Map);
-    scene.Look.Palette = options.Palette;
-    scene.Look.IsolatedSamples = options.Mode == "points";
-    scene.Look.Exaggeration =
-        ToNumber(options.Exaggeration).value_or(ChooseExaggeration(scene.Map, scene.Statistics));
-    if (options.Print)
-    {
         std::printf("  extent %g x %g %s, heights shown %g times\n", (map.Columns - 1) * map.XScale,
                     (map.Rows - 1) * map.YScale, map.Unit.c_str(), scene.Look.Exaggeration);
         std::printf("  read in %.0f ms\n", MillisecondsSince(start));

@@ -4,7 +4,9 @@
 
 // After GoogleTest, which its macros would break.
 #include <X11/Xlib.h>
+#include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
+
 TestHost::TestHost(int width, int height)
 {
     Connection = XOpenDisplay(nullptr);
@@ -47,6 +49,42 @@ std::vector<NativeWindow> TestHost::Children() const
     return result;
 }
 
+std::array<int, 4> TestHost::Placement(NativeWindow window) const
+{
+    XWindowAttributes attributes = {};
+    EXPECT_TRUE(XGetWindowAttributes(Connection, window, &attributes));
+    return {attributes.x, attributes.y, attributes.width, attributes.height};
+}
+
+Picture TestHost::TakeScreen(NativeWindow window) const
+{
+    XWindowAttributes attributes = {};
+    XGetWindowAttributes(Connection, window, &attributes);
+    XImage* image = XGetImage(Connection, window, 0, 0, static_cast<unsigned>(attributes.width),
+                              static_cast<unsigned>(attributes.height), AllPlanes, ZPixmap);
+    Picture picture;
+    if (!image)
+    {
+        ADD_FAILURE() << "the window is not on the screen";
+        return picture;
+    }
+    picture.Width = image->width;
+    picture.Height = image->height;
+    for (int y = 0; y < image->height; ++y)
+    {
+        for (int x = 0; x < image->width; ++x)
+        {
+            const unsigned long pixel = XGetPixel(image, x, y);
+            for (const int shift : {16, 8, 0})
+            {
+                picture.Pixels.push_back(static_cast<uint8_t>(pixel >> shift & 255));
+            }
+        }
+    }
+    XDestroyImage(image);
+    return picture;
+}
+
 void TestHost::Destroy()
 {
     if (Native)
@@ -85,4 +123,24 @@ void TestHost::Release(unsigned button)
 {
     XTestFakeButtonEvent(Connection, button, False, CurrentTime);
     XSync(Connection, False);
+}
+
+namespace
+{
+void SendKey(Display* connection, const char* name, Bool down)
+{
+    const KeyCode code = XKeysymToKeycode(connection, XStringToKeysym(name));
+    XTestFakeKeyEvent(connection, code, down, CurrentTime);
+    XSync(connection, False);
+}
+} // namespace
+
+void TestHost::PressKey(const char* name)
+{
+    SendKey(Connection, name, True);
+}
+
+void TestHost::ReleaseKey(const char* name)
+{
+    SendKey(Connection, name, False);
 }

@@ -2,6 +2,9 @@
 // loop that lets the library handle its events.
 #pragma once
 
+#include "support/Picture.h"
+
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -22,6 +25,10 @@ public:
     void* Handle() const { return reinterpret_cast<void*>(Native); }
     // The windows that the library has placed in the host's.
     std::vector<NativeWindow> Children() const;
+    // x and y in the parent, width and height, of a window.
+    std::array<int, 4> Placement(NativeWindow window) const;
+    // What the screen shows there.
+    Picture TakeScreen(NativeWindow window) const;
     void Destroy();
     // Closes the host's connection without another word, as a dying host does.
     void CloseConnection();
@@ -31,6 +38,9 @@ public:
     void Press(unsigned button);
     void Release(unsigned button);
     void Drag(NativeWindow window, unsigned button, int x0, int y0, int x1, int y1, int steps = 5);
+    // A key by its name, "q" or "Shift_L".
+    void PressKey(const char* name);
+    void ReleaseKey(const char* name);
 
     _XDisplay* Connection = nullptr;
     NativeWindow Native = 0;
