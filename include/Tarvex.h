@@ -1144,8 +1144,8 @@ TARVEX_API int32_t Tarvex_Element_Add_Rectangle(int32_t windowId, uint8_t center
 /**
  * Reads a rectangle, also if invalid. Does not render.
  *
- * @param[out] x, y, z The centre, however the rectangle was given, in host coordinates; 0 on
- *     failure.
+ * @param[out] x, y, z The centre, however the rectangle was given, in host coordinates; x and z are
+ *     0 for one that was added by its corner and is invalid. All 0 on failure.
  * @param[out] width, height, angle Scene units and degrees; 0 on failure.
  * @retval STATUS_BAD_INDEX No element has this id.
  * @retval STATUS_WRONG_TYPE The element is not a rectangle.

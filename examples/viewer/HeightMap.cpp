@@ -1,24 +1,19 @@
 #include "HeightMap.h"
 
+#include "FileBytes.h"
 #include "PngFile.h"
+#include "RawGrid.h"
 
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <cmath>
-#include <fstream>
-#include <map>
+#include <limits>
 #include <numbers>
-#include <sstream>
 #include <stdexcept>
 
 namespace
 {
-std::runtime_error Failure(const std::filesystem::path& path, const std::string& text)
-{
-    return std::runtime_error(path.string() + ": " + text);
-}
-
 // Length units in rising order, each a thousand times the one before.
 constexpr std::array<const char*, 5> LengthUnits = {"nm", "um", "mm", "m", "km"};
 
@@ -26,34 +21,6 @@ std::ptrdiff_t UnitIndex(const std::string& unit)
 {
     const auto found = std::find(LengthUnits.begin(), LengthUnits.end(), unit);
     return found == LengthUnits.end() ? -1 : found - LengthUnits.begin();
-}
-
-std::vector<uint8_t> ReadBytes(const std::filesystem::path& path)
-{
-    if (!std::filesystem::is_regular_file(path))
-    {
-        throw Failure(path, std::filesystem::exists(path) ? "not a file" : "no such file");
-    }
-    std::ifstream stream(path, std::ios::binary);
-    std::vector<uint8_t> bytes(std::filesystem::file_size(path));
-    if (!stream || !stream.read(reinterpret_cast<char*>(bytes.data()),
-                                static_cast<std::streamsize>(bytes.size())))
-    {
-        throw Failure(path, "can't be read");
-    }
-    return bytes;
-}
-
-// Two bytes a sample; the place of the high byte differs between the formats.
-std::vector<int16_t> ToSamples(const std::vector<uint8_t>& bytes, bool highByteFirst)
-{
-    std::vector<int16_t> samples(bytes.size() / 2);
-    const size_t high = highByteFirst ? 0 : 1;
-    for (size_t i = 0; i < samples.size(); ++i)
-    {
-        samples[i] = static_cast<int16_t>(bytes[2 * i + high] << 8 | bytes[2 * i + 1 - high]);
-    }
-    return samples;
 }
 
 // Latitude of a tile's middle, from a name such as N42E001 for its south-western corner. A name of
@@ -94,139 +61,6 @@ HeightMap LoadElevationTile(const std::filesystem::path& path)
     return map;
 }
 
-// The description beside a raw grid: lines of a name, a value and sometimes a unit.
-class Sidecar
-{
-public:
-    explicit Sidecar(const std::filesystem::path& path) : Path(path)
-    {
-        std::ifstream stream(path);
-        if (!stream)
-        {
-            throw Failure(path, "the description of the grid is missing or can't be read");
-        }
-        for (std::string line; std::getline(stream, line);)
-        {
-            std::istringstream words(line);
-            std::string name;
-            if (words >> name)
-            {
-                std::getline(words >> std::ws, Values[name]);
-            }
-        }
-    }
-
-    bool Has(const std::string& name) const { return Values.count(name) != 0; }
-
-    const std::string& Text(const std::string& name) const
-    {
-        const auto found = Values.find(name);
-        if (found == Values.end())
-        {
-            throw Failure(Path, "has no line '" + name + "'");
-        }
-        return found->second;
-    }
-
-    double Number(const std::string& name) const
-    {
-        std::istringstream words(Text(name));
-        double number = 0.0;
-        if (!(words >> number) || !std::isfinite(number))
-        {
-            throw Failure(Path, "the value of '" + name + "' is no number");
-        }
-        return number;
-    }
-
-    int32_t Count(const std::string& name) const
-    {
-        const double number = Number(name);
-        if (number != std::floor(number) || std::abs(number) > INT32_MAX)
-        {
-            throw Failure(Path, "the value of '" + name + "' is no usable whole number");
-        }
-        return static_cast<int32_t>(number);
-    }
-
-    std::string Unit(const std::string& name) const
-    {
-        std::istringstream words(Text(name));
-        std::string number;
-        std::string unit;
-        words >> number >> unit;
-        return unit;
-    }
-
-    // A length in another unit than its own, as far as both are length units.
-    double NumberIn(const std::string& name, const std::string& unit) const
-    {
-        const auto from = UnitIndex(Unit(name));
-        const auto to = UnitIndex(unit);
-        const double factor =
-            from < 0 || to < 0 ? 1.0 : std::pow(1000.0, static_cast<double>(from - to));
-        return Number(name) * factor;
-    }
-
-private:
-    std::filesystem::path Path;
-    std::map<std::string, std::string> Values;
-};
-
-void UseMarker(std::vector<int16_t>& samples, int32_t marker)
-{
-    if (marker == HeightMap::Missing)
-    {
-        return;
-    }
-    for (int16_t& sample : samples)
-    {
-        if (sample == marker)
-        {
-            sample = HeightMap::Missing;
-        }
-        else if (sample == HeightMap::Missing)
-        {
-            // A height in a file with another marker: one count up rather than lost.
-            ++sample;
-        }
-    }
-}
-
-HeightMap LoadRawGrid(const std::filesystem::path& path)
-{
-    const std::vector<uint8_t> bytes = ReadBytes(path);
-    std::filesystem::path beside = path;
-    const Sidecar sidecar(beside.replace_extension(".txt"));
-    if (sidecar.Has("type") && sidecar.Text("type").rfind("int16 little-endian", 0) != 0)
-    {
-        throw Failure(beside, "only grids of type 'int16 little-endian' can be read");
-    }
-    HeightMap map;
-    map.Columns = sidecar.Count("columns");
-    map.Rows = sidecar.Count("rows");
-    if (map.Columns < 2 || map.Rows < 2)
-    {
-        throw Failure(beside, "a surface has at least 2 columns and 2 rows, this has " +
-                                  std::to_string(map.Columns) + " x " + std::to_string(map.Rows));
-    }
-    const int64_t wanted = static_cast<int64_t>(map.Columns) * map.Rows * 2;
-    if (static_cast<int64_t>(bytes.size()) != wanted)
-    {
-        throw Failure(path, "has " + std::to_string(bytes.size()) + " bytes, its description of " +
-                                std::to_string(map.Columns) + " x " + std::to_string(map.Rows) +
-                                " samples asks for " + std::to_string(wanted));
-    }
-    map.Samples = ToSamples(bytes, false);
-    UseMarker(map.Samples, sidecar.Has("invalid") ? sidecar.Count("invalid") : HeightMap::Missing);
-    map.Unit = sidecar.Unit("xscale");
-    map.XScale = sidecar.Number("xscale");
-    map.YScale = sidecar.NumberIn("yscale", map.Unit);
-    map.ZScale = sidecar.NumberIn("zscale", map.Unit);
-    map.ZOffset = sidecar.Has("zoffset") ? sidecar.NumberIn("zoffset", map.Unit) : 0.0;
-    return map;
-}
-
 HeightMap LoadHeightPicture(const std::filesystem::path& path, const LoadOptions& options)
 {
     if (!std::filesystem::exists(path))
@@ -253,17 +87,22 @@ HeightMap LoadHeightPicture(const std::filesystem::path& path, const LoadOptions
     return map;
 }
 
+// The offset stands for a number of steps and keeps standing for it.
+void OverrideScale(const std::optional<double>& wanted, double& scale, double& offset)
+{
+    if (wanted)
+    {
+        offset = offset / scale * *wanted;
+        scale = *wanted;
+    }
+}
+
 void Override(HeightMap& map, const LoadOptions& options)
 {
-    map.XScale = options.XScale.value_or(map.XScale);
-    map.YScale = options.YScale.value_or(map.YScale);
+    OverrideScale(options.XScale, map.XScale, map.XOffset);
+    OverrideScale(options.YScale, map.YScale, map.YOffset);
+    OverrideScale(options.ZScale, map.ZScale, map.ZOffset);
     map.Unit = options.Unit.value_or(map.Unit);
-    if (options.ZScale)
-    {
-        // The offset stands for a number of counts and keeps standing for it.
-        map.ZOffset = map.ZOffset / map.ZScale * *options.ZScale;
-        map.ZScale = *options.ZScale;
-    }
 }
 
 void Trim(HeightMap& map, double percent)
@@ -288,9 +127,9 @@ void Trim(HeightMap& map, double percent)
 
 void RequireUsable(const std::filesystem::path& path, const HeightMap& map)
 {
-    if (map.Columns < 2 || map.Rows < 2)
+    if (map.Columns < 2 || map.Rows < 1)
     {
-        throw Failure(path, "a surface has at least 2 columns and 2 rows");
+        throw Failure(path, "at least 2 columns and 1 row are wanted");
     }
     if (!(map.XScale > 0.0) || !(map.YScale > 0.0) || !(map.ZScale > 0.0))
     {
@@ -318,7 +157,7 @@ HeightMap LoadHeightMap(const std::filesystem::path& path, const LoadOptions& op
     }
     else if (extension == ".i16")
     {
-        map = LoadRawGrid(path);
+        map = IsFreeGridPath(path) ? LoadFreeGrid(path) : LoadRawGrid(path);
     }
     else if (extension == ".png")
     {
@@ -343,7 +182,8 @@ void ChooseUnit(HeightMap& map)
     {
         return;
     }
-    double longer = std::max((map.Columns - 1) * map.XScale, (map.Rows - 1) * map.YScale);
+    const Extent extent = DescribeExtent(map);
+    const double longer = std::max(extent.Width(), extent.Depth());
     double factor = 1.0;
     const auto last = static_cast<std::ptrdiff_t>(LengthUnits.size()) - 1;
     for (; longer * factor >= MostUnits && unit < last; ++unit)
@@ -358,7 +198,39 @@ void ChooseUnit(HeightMap& map)
     map.XScale *= factor;
     map.YScale *= factor;
     map.ZScale *= factor;
+    map.XOffset *= factor;
+    map.YOffset *= factor;
     map.ZOffset *= factor;
+}
+
+double LengthFactor(const std::string& from, const std::string& to)
+{
+    const auto fromIndex = UnitIndex(from);
+    const auto toIndex = UnitIndex(to);
+    const bool areLengths = fromIndex >= 0 && toIndex >= 0;
+    return areLengths ? std::pow(1000.0, static_cast<double>(fromIndex - toIndex)) : 1.0;
+}
+
+Extent DescribeExtent(const HeightMap& map)
+{
+    if (!map.HasFreePositions())
+    {
+        return {map.XOffset, map.XOffset + (map.Columns - 1) * map.XScale, map.YOffset,
+                map.YOffset + (map.Rows - 1) * map.YScale};
+    }
+    constexpr double Infinity = std::numeric_limits<double>::infinity();
+    Extent extent = {Infinity, -Infinity, Infinity, -Infinity};
+    for (size_t i = 0; i < map.Samples.size(); ++i)
+    {
+        if (map.Samples[i] != HeightMap::Missing)
+        {
+            extent.XMin = std::min(extent.XMin, map.X(i));
+            extent.XMax = std::max(extent.XMax, map.X(i));
+            extent.YMin = std::min(extent.YMin, map.Y(i));
+            extent.YMax = std::max(extent.YMax, map.Y(i));
+        }
+    }
+    return extent;
 }
 
 HeightStatistics DescribeHeights(const HeightMap& map)
@@ -392,7 +264,8 @@ double ChooseExaggeration(const HeightMap& map, const HeightStatistics& statisti
 {
     // A relief a fifth as high as the surface is wide shows its form without looking like a wall.
     constexpr double WantedRelief = 0.2;
-    const double width = ((map.Columns - 1) * map.XScale + (map.Rows - 1) * map.YScale) / 2.0;
+    const Extent extent = DescribeExtent(map);
+    const double width = map.IsProfile() ? extent.Width() : (extent.Width() + extent.Depth()) / 2.0;
     const double relief = map.Height(statistics.Highest) - map.Height(statistics.Lowest);
     if (relief <= 0.0)
     {

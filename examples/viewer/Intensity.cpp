@@ -1,20 +1,14 @@
 #include "Intensity.h"
 
+#include "FileBytes.h"
 #include "PngFile.h"
 
-#include <algorithm>
 #include <cctype>
 #include <fstream>
-#include <stdexcept>
 #include <string>
 
 namespace
 {
-std::runtime_error Failure(const std::filesystem::path& path, const std::string& text)
-{
-    return std::runtime_error(path.string() + ": " + text);
-}
-
 // The numbers of a PGM header stand between white space and comments that run to the line's end.
 int32_t ReadHeaderNumber(std::istream& stream)
 {
@@ -100,19 +94,4 @@ void LoadIntensity(const std::filesystem::path& path, HeightMap& map)
                                 std::to_string(map.Columns) + " x " + std::to_string(map.Rows));
     }
     map.Intensities.assign(picture.Samples.begin(), picture.Samples.end());
-}
-
-void SpreadIntensities(HeightMap& map)
-{
-    if (map.Intensities.empty())
-    {
-        return;
-    }
-    const auto [low, high] = std::minmax_element(map.Intensities.begin(), map.Intensities.end());
-    const int32_t darkest = *low;
-    const int32_t range = std::max(1, *high - darkest);
-    for (uint8_t& intensity : map.Intensities)
-    {
-        intensity = static_cast<uint8_t>((intensity - darkest) * 255 / range);
-    }
 }

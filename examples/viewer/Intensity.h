@@ -7,6 +7,3 @@
 // Reads one brightness per sample from an 8-bit PGM (P5) or grey PNG file of the map's size.
 // Throws std::runtime_error when the file is no such picture or does not fit the map.
 void LoadIntensity(const std::filesystem::path& path, HeightMap& map);
-
-// Stretches the intensities over all of 0 to 255, of which a camera often uses a small part.
-void SpreadIntensities(HeightMap& map);

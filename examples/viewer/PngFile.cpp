@@ -1,5 +1,7 @@
 #include "PngFile.h"
 
+#include "FileBytes.h"
+
 #include <png.h>
 
 #include <csetjmp>
@@ -94,11 +96,6 @@ bool WritePicture(png_structp png, png_infop info, std::FILE* file, png_bytepp r
     png_write_image(png, rows);
     png_write_end(png, nullptr);
     return true;
-}
-
-std::runtime_error Failure(const std::filesystem::path& path, const std::string& text)
-{
-    return std::runtime_error(path.string() + ": " + text);
 }
 
 File Open(const std::filesystem::path& path, const char* mode, const char* complaint)

@@ -1,18 +1,11 @@
 #pragma once
 
 #include "HeightMap.h"
+#include "SurfaceElement.h"
 
 #include <cstdint>
-#include <stdexcept>
-#include <string>
+#include <optional>
 #include <vector>
-
-// A call into the library that did not succeed; the text names the call and the status.
-class LibraryError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
 
 // A finished picture: 8-bit RGB triples, top row first.
 struct RgbPicture
@@ -22,45 +15,61 @@ struct RgbPicture
     std::vector<uint8_t> Rgb;
 };
 
-struct SurfaceLook
+// What stands around the measurement.
+struct Furniture
 {
-    double Exaggeration = 1.0;   // factor on all heights
-    bool IsolatedSamples = true; // draw also samples that lie in no complete cell
+    bool Frame = false;       // box with scales around the measurement
+    bool Bar = false;         // colours and heights of the surface
+    bool Axes = false;        // coordinate axes through the origin
+    bool Marker = false;      // small axes in the corner that turn along
+    bool Coordinates = false; // of what is under the mouse
 };
 
-// One 3D view of the library in a host's window, showing one surface and a few marks on it: its
-// lowest and highest sample and a line along X through its middle. Throws LibraryError.
+// What is shown of a measurement.
+struct SceneLook
+{
+    SurfaceLook Surface;
+    int32_t Profiles = 0;  // rows of the surface that are drawn as profiles above it
+    bool Geometry = false; // geometric elements instead of the plain marks
+};
+
+// One 3D view of the library in a host's window. It shows one measurement: a surface with marks at
+// its lowest and highest sample and a line along X through its middle, or with profiles or
+// geometric elements instead of them; or a profile alone. Throws LibraryError.
 class SurfaceView
 {
 public:
-    SurfaceView(void* parentWindow, int32_t width, int32_t height);
+    SurfaceView(void* parentWindow, int32_t width, int32_t height, const Furniture& furniture);
     ~SurfaceView();
     SurfaceView(const SurfaceView&) = delete;
     SurfaceView& operator=(const SurfaceView&) = delete;
 
     // Replaces what the view shows and frames it.
-    void Show(const HeightMap& map, const HeightStatistics& statistics, const SurfaceLook& look);
+    void Show(const HeightMap& map, const HeightStatistics& statistics, const SceneLook& look);
+
+    // The surface that is shown; none while a profile is.
+    SurfaceElement* Surface() { return ShownSurface ? &*ShownSurface : nullptr; }
 
     void Resize(int32_t width, int32_t height);
     void Frame();
     void ShowFrom(int32_t predefinedView);
     void ToggleParallelProjection();
-    void ToggleIsolatedSamples();
-    void ToggleIntensity(); // does nothing for a surface without intensities
+    void ToggleFurniture(bool Furniture::*part);
+    void ActivateNextElement();
 
     RgbPicture Picture() const;
 
 private:
+    void SetDrawSpace(const Extent& extent, double low, double high);
     void LookObliquely();
-    void AddMarks(const HeightMap& map, const HeightStatistics& statistics, double exaggeration);
-    void AddMark(double x, double y, double z, double radius, const uint8_t (&color)[3]);
-    void UseIntensity(bool show);
+    void ApplyFurniture();
+    void Zoom(double factor);
     void Redraw();
 
     int32_t Id = -1;
-    int32_t Surface = -1;
+    int32_t Measured = -1; // the surface or profile that is shown
+    std::optional<SurfaceElement> ShownSurface;
+    Furniture Around;
     bool Parallel = false;
-    bool Zoomed = false; // Frame has run
-    bool IntensityShown = false;
-    bool HasIntensities = false;
+    double ZoomFactor = 1.0; // how much nearer the camera is than the library puts it
 };

@@ -1,23 +1,24 @@
-// A host program that shows measured surfaces in its own X11 window with the library's 3D view.
+// A host program that shows measurements in its own X11 window with the library's 3D view.
 
 #include "HeightMap.h"
 #include "HostWindow.h"
 #include "Intensity.h"
+#include "Library.h"
+#include "Options.h"
 #include "PngFile.h"
 #include "SurfaceView.h"
 
 #include <Tarvex.h>
 #include <TarvexExt.h>
 
-#include <CLI/CLI.hpp>
 #include <X11/keysym.h>
 
+#include <array>
 #include <chrono>
-#include <cmath>
 #include <cstdio>
+#include <filesystem>
 #include <iostream>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,133 +35,66 @@ double MillisecondsSince(Clock::time_point start)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-struct Options
-{
-    std::vector<std::string> Files;
-    std::string Intensity;
-    std::string Screenshot;
-    std::string Size = "1100x800";
-    std::string Mode = "points";
-    std::string Exaggeration = "auto";
-    std::string MissingCount = "0";
-    LoadOptions Load;
-    bool Print = false;
-};
-
 // One file of the command line, ready to be shown.
 struct Scene
 {
-    std::string Name;
+    std::string Title;
     HeightMap Map;
     HeightStatistics Statistics;
-    SurfaceLook Look;
+    SceneLook Look;
 };
 
-void Declare(CLI::App& app, Options& options)
+void Print(const Scene& scene)
 {
-    app.add_option("file", options.Files,
-                   "surfaces to show: elevation tiles (.hgt), raw grids with a description beside "
-                   "them (.i16 and .txt), grey height pictures (.png)")
-        ->required();
-    app.add_option("--intensity", options.Intensity,
-                   "brightness of each sample: 8-bit .pgm (P5) or grey .png of the same size");
-    app.add_option("--screenshot", options.Screenshot, "write the picture to this PNG and end");
-    app.add_option("--size", options.Size, "size of the window")->capture_default_str();
-    app.add_option("--mode", options.Mode,
-                   "full: complete cells only; points: isolated samples too")
-        ->check(CLI::IsMember({"full", "points"}))
-        ->capture_default_str();
-    app.add_option("--z-exaggeration", options.Exaggeration, "factor on the heights, or auto")
-        ->capture_default_str();
-    app.add_option("--x-scale", options.Load.XScale, "distance of columns, instead of the file's");
-    app.add_option("--y-scale", options.Load.YScale, "distance of rows, instead of the file's");
-    app.add_option("--z-scale", options.Load.ZScale, "height of one count, instead of the file's");
-    app.add_option("--unit", options.Load.Unit, "unit of the scales: nm, um, mm, m, km or a name");
-    app.add_option("--missing", options.MissingCount,
-                   "count that marks missing samples of a .png, or none")
-        ->capture_default_str();
-    app.add_option("--trim", options.Load.TrimPercent,
-                   "percent of the samples to leave out as outliers at each end")
-        ->check(CLI::Range(0.0, 49.0));
-    app.add_flag("--print", options.Print, "print numbers about the data and the time it took");
-    app.footer("Keys: r frames the surface, 0 to 5 look along an axis, p parallel projection,\n"
-               "m isolated samples, i intensity, n next file, q or Escape end.");
+    const HeightMap& map = scene.Map;
+    const HeightStatistics& statistics = scene.Statistics;
+    const size_t samples = map.Samples.size();
+    const char* unit = map.Unit.c_str();
+    std::printf("  columns %d, rows %d%s\n", map.Columns, map.Rows,
+                map.HasFreePositions() ? ", free positions" : "");
+    std::printf("  missing %zu (%.2f %%)\n", statistics.MissingSamples,
+                100.0 * static_cast<double>(statistics.MissingSamples) /
+                    static_cast<double>(samples));
+    std::printf("  lowest %g %s (count %d), highest %g %s (count %d)\n",
+                map.Height(statistics.Lowest), unit, statistics.Lowest,
+                map.Height(statistics.Highest), unit, statistics.Highest);
+    const Extent extent = DescribeExtent(map);
+    std::printf("  x %g to %g %s, y %g to %g %s, heights shown %g times\n", extent.XMin,
+                extent.XMax, unit, extent.YMin, extent.YMax, unit, scene.Look.Surface.Exaggeration);
 }
 
-// The whole text as a number, or nothing.
-std::optional<double> ToNumber(const std::string& text)
+// What the scales of the view can't say: the unit, and that heights are drawn larger.
+std::string MakeTitle(const std::string& file, const HeightMap& map, double exaggeration)
 {
-    size_t used = 0;
-    try
+    std::string title = std::filesystem::path(file).filename().string() + " - " + map.Unit;
+    if (exaggeration != 1.0)
     {
-        const double number = std::stod(text, &used);
-        return used == text.size() ? std::optional(number) : std::nullopt;
+        std::array<char, 32> factor{};
+        std::snprintf(factor.data(), factor.size(), "%g", exaggeration);
+        title += std::string(", heights times ") + factor.data();
     }
-    catch (const std::logic_error&)
-    {
-        return std::nullopt;
-    }
-}
-
-void Interpret(Options& options, int& width, int& height)
-{
-    char rest = '\0';
-    if (std::sscanf(options.Size.c_str(), "%5dx%5d%c", &width, &height, &rest) != 2 || width < 16 ||
-        height < 16 || width > 16384 || height > 16384)
-    {
-        throw std::runtime_error("--size: " + options.Size + " is no size such as 1100x800");
-    }
-    const auto missing = ToNumber(options.MissingCount);
-    if (options.MissingCount != "none" &&
-        !(missing && *missing >= 0 && *missing <= 65535 && *missing == std::floor(*missing)))
-    {
-        throw std::runtime_error("--missing: a count from 0 to 65535 or none is wanted");
-    }
-    options.Load.MissingCount =
-        missing ? std::optional(static_cast<int32_t>(*missing)) : std::nullopt;
-    const auto exaggeration = ToNumber(options.Exaggeration);
-    if (options.Exaggeration != "auto" &&
-        !(exaggeration && *exaggeration > 0.0 && std::isfinite(*exaggeration)))
-    {
-        throw std::runtime_error("--z-exaggeration: a number above 0 or auto is wanted");
-    }
-    if (options.Files.size() > 1 && !(options.Screenshot.empty() && options.Intensity.empty()))
-    {
-        throw std::runtime_error("--screenshot and --intensity go with one file only");
-    }
+    return title;
 }
 
 Scene Load(const std::string& file, const Options& options)
 {
     const Clock::time_point start = Clock::now();
     Scene scene;
-    scene.Name = file;
     scene.Map = LoadHeightMap(file, options.Load);
     if (!options.Intensity.empty())
     {
         LoadIntensity(options.Intensity, scene.Map);
-        SpreadIntensities(scene.Map);
     }
     ChooseUnit(scene.Map);
     scene.Statistics = DescribeHeights(scene.Map);
-    scene.Look.IsolatedSamples = options.Mode == "points";
-    scene.Look.Exaggeration =
-        ToNumber(options.Exaggeration).value_or(ChooseExaggeration(scene.Map, scene.Statistics));
-    const HeightMap& map = scene.Map;
+    scene.Look = options.Look;
+    scene.Look.Surface.Exaggeration =
+        options.Exaggeration.value_or(ChooseExaggeration(scene.Map, scene.Statistics));
+    scene.Title = MakeTitle(file, scene.Map, scene.Look.Surface.Exaggeration);
     if (options.Print)
     {
-        const size_t samples = map.Samples.size();
-        const size_t missing = scene.Statistics.MissingSamples;
         std::printf("%s\n", file.c_str());
-        std::printf("  columns %d, rows %d\n", map.Columns, map.Rows);
-        std::printf("  missing %zu (%.2f %%)\n", missing,
-                    100.0 * static_cast<double>(missing) / static_cast<double>(samples));
-        std::printf("  lowest %g %s (count %d), highest %g %s (count %d)\n",
-                    map.Height(scene.Statistics.Lowest), map.Unit.c_str(), scene.Statistics.Lowest,
-                    map.Height(scene.Statistics.Highest), map.Unit.c_str(),
-                    scene.Statistics.Highest);
-        std::printf("  extent %g x %g %s, heights shown %g times\n", (map.Columns - 1) * map.XScale,
-                    (map.Rows - 1) * map.YScale, map.Unit.c_str(), scene.Look.Exaggeration);
+        Print(scene);
         std::printf("  read in %.0f ms\n", MillisecondsSince(start));
     }
     return scene;
@@ -181,9 +115,9 @@ int Complain(const std::exception& error, int exitStatus)
 class Program
 {
 public:
-    Program(std::vector<Scene> scenes, int width, int height)
-        : Scenes(std::move(scenes)), Window("Surface viewer", width, height),
-          View(Window.Handle(), Window.Width(), Window.Height())
+    Program(std::vector<Scene> scenes, const Options& options)
+        : Scenes(std::move(scenes)), Window("Surface viewer", options.Width, options.Height),
+          View(Window.Handle(), Window.Width(), Window.Height(), options.Around)
     {
         ShowScene(0);
     }
@@ -221,7 +155,7 @@ private:
     {
         Shown = index;
         const Scene& scene = Scenes[Shown];
-        Window.SetTitle(scene.Name);
+        Window.SetTitle(scene.Title);
         View.Show(scene.Map, scene.Statistics, scene.Look);
     }
 
@@ -255,11 +189,23 @@ private:
         case XK_p:
             View.ToggleParallelProjection();
             break;
-        case XK_m:
-            View.ToggleIsolatedSamples();
+        case XK_f:
+            View.ToggleFurniture(&Furniture::Frame);
             break;
-        case XK_i:
-            View.ToggleIntensity();
+        case XK_b:
+            View.ToggleFurniture(&Furniture::Bar);
+            break;
+        case XK_a:
+            View.ToggleFurniture(&Furniture::Axes);
+            break;
+        case XK_o:
+            View.ToggleFurniture(&Furniture::Marker);
+            break;
+        case XK_x:
+            View.ToggleFurniture(&Furniture::Coordinates);
+            break;
+        case XK_h:
+            View.ActivateNextElement();
             break;
         case XK_n:
             ShowScene((Shown + 1) % Scenes.size());
@@ -269,6 +215,37 @@ private:
             {
                 View.ShowFrom(static_cast<int32_t>(key - XK_0));
             }
+            else if (SurfaceElement* surface = View.Surface())
+            {
+                ReactToSurfaceKey(*surface, key);
+            }
+            break;
+        }
+    }
+
+    void ReactToSurfaceKey(SurfaceElement& surface, unsigned long key)
+    {
+        switch (key)
+        {
+        case XK_c:
+            surface.UseNextPalette();
+            break;
+        case XK_plus:
+        case XK_equal: // the key of + on keyboards where + wants the shift key
+        case XK_KP_Add:
+            surface.ClipMore();
+            break;
+        case XK_minus:
+        case XK_KP_Subtract:
+            surface.ClipLess();
+            break;
+        case XK_i:
+            surface.ToggleIntensity();
+            break;
+        case XK_m:
+            surface.ToggleIsolatedSamples();
+            break;
+        default:
             break;
         }
     }
@@ -284,30 +261,29 @@ private:
 int main(int argc, char** argv)
 {
     const Clock::time_point start = Clock::now();
-    Options options;
-    CLI::App app("Shows measured surfaces in three dimensions.", "tarvex_viewer");
-    Declare(app, options);
-    CLI11_PARSE(app, argc, argv);
     try
     {
-        int width = 0;
-        int height = 0;
-        Interpret(options, width, height);
-        std::vector<Scene> scenes;
-        for (const std::string& file : options.Files)
+        int exitStatus = 0;
+        const std::optional<Options> options = ReadOptions(argc, argv, exitStatus);
+        if (!options)
         {
-            scenes.push_back(Load(file, options));
+            return exitStatus;
         }
-        Program program(std::move(scenes), width, height);
-        if (options.Print)
+        std::vector<Scene> scenes;
+        for (const std::string& file : options->Files)
+        {
+            scenes.push_back(Load(file, *options));
+        }
+        Program program(std::move(scenes), *options);
+        if (options->Print)
         {
             std::printf("first picture after %.0f ms, library %s\n", MillisecondsSince(start),
                         TarvexExt_GetVersion());
             std::fflush(stdout);
         }
-        if (!options.Screenshot.empty())
+        if (!options->Screenshot.empty())
         {
-            Save(program.ShownView(), options.Screenshot);
+            Save(program.ShownView(), options->Screenshot);
             return 0;
         }
         program.Run();

@@ -1,6 +1,7 @@
 #include "elements3d/CElement_Line.h"
 
 #include "Tarvex.h"
+#include "elements3d/Directions.h"
 #include "frame/ElementDefaults.h"
 #include "frame/NumberTest.h"
 
@@ -16,30 +17,17 @@ int32_t CElement_Line::Initialize(const ElementSite& site, double x, double y, d
 {
     Point = {x, y, z};
     Direction = {dx, dy, dz};
-    Valid = AreValidNumbers({x, y, z, dx, dy, dz}) &&
-            !(vtkMath::Dot(Direction.data(), Direction.data()) < 1e-12);
+    Valid = AreValidNumbers({x, y, z, dx, dy, dz}) && GivesDirection(Direction);
     if (Valid)
     {
-        const double length = vtkMath::Norm(Direction.data());
-        for (double& component : Direction)
-        {
-            component /= length;
-        }
+        MakeUnit(Direction);
     }
     if (site.Defaults)
     {
         Start = site.Defaults->LineStart;
         End = site.Defaults->LineEnd;
     }
-    if (const double* box = site.DrawSpace)
-    {
-        // Stricter than SetDrawLimit: an extent of exactly 0.1 is not taken here.
-        constexpr double least = 0.1;
-        if (box[1] - box[0] > least && box[3] - box[2] > least && box[5] - box[4] > least)
-        {
-            std::copy(box, box + 6, DrawLimit.begin());
-        }
-    }
+    site.TakeDrawSpace(DrawLimit);
     return TakeSiteAndSize(site);
 }
 

@@ -12,6 +12,17 @@
 
 #include <algorithm>
 
+void ElementSite::TakeDrawSpace(std::array<double, 6>& box) const
+{
+    // Stricter than the calls that give an element a box later: exactly 0.1 is not taken here.
+    constexpr double least = 0.1;
+    if (DrawSpace && DrawSpace[1] - DrawSpace[0] > least && DrawSpace[3] - DrawSpace[2] > least &&
+        DrawSpace[5] - DrawSpace[4] > least)
+    {
+        std::copy(DrawSpace, DrawSpace + 6, box.begin());
+    }
+}
+
 int32_t CElement_Scene::TakeSite(const ElementSite& site)
 {
     if (!site.Renderer || !site.RenderWindow)

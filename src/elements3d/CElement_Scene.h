@@ -4,6 +4,8 @@
 
 #include "elements3d/CElement_Base.h"
 
+#include <array>
+
 #include <vtkActor.h>
 #include <vtkSmartPointer.h>
 
@@ -25,6 +27,9 @@ struct ElementSite
     double BackgroundColor[3] = {0.0, 0.0, 0.0};
     const double* DrawSpace = nullptr;         // xmin, xmax, ymin, ymax, zmin, zmax
     const ElementDefaults* Defaults = nullptr; // null: the constructor's look stays
+
+    // Copies the draw space, unless it is too thin for a new element: then `box` stays.
+    void TakeDrawSpace(std::array<double, 6>& box) const;
 };
 
 class CElement_Scene : public CElement_Base

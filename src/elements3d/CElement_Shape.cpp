@@ -1,10 +1,10 @@
 #include "elements3d/CElement_Shape.h"
 
 #include "Tarvex.h"
+#include "elements3d/ShapeMapper.h"
 #include "frame/ElementDefaults.h"
 #include "frame/NumberTest.h"
 
-#include <vtkPolyDataMapper.h>
 #include <vtkProperty.h>
 
 int32_t CElement_Shape::TakeSiteAndSize(const ElementSite& site)
@@ -18,7 +18,7 @@ int32_t CElement_Shape::TakeSiteAndSize(const ElementSite& site)
 
 void CElement_Shape::BuildActor(vtkAlgorithmOutput* geometry)
 {
-    Mapper = vtkSmartPointer<vtkPolyDataMapper>::New();
+    Mapper = vtkSmartPointer<ShapeMapper>::New();
     Mapper->SetInputConnection(geometry);
     Actor = vtkSmartPointer<vtkActor>::New();
     Actor->SetMapper(Mapper);

@@ -7,8 +7,6 @@
 #include <vtkSmartPointer.h>
 
 class vtkAlgorithmOutput;
-class vtkCellArray;
-class vtkPoints;
 class vtkPolyData;
 class vtkTrivialProducer;
 
@@ -18,16 +16,16 @@ public:
     CPolyLine();
 
     // Three doubles a point, in the coordinates of the actor; `path` visits points by their index,
-    // as often as it likes. Replaces what was there.
+    // as often as it likes. Replaces what was there; if memory runs out, the old line stays.
     void Set(std::span<const double> coordinates, std::span<const int32_t> path);
+    // Through all points in their order, and back to the first if `closed`.
+    void Set(std::span<const double> coordinates, bool closed);
 
     // For the mapper.
     vtkAlgorithmOutput* GetOutputPort() const;
-    vtkPolyData* GetPolyData() const { return PolyData; }
+    vtkPolyData* GetPolyData() const;
 
 private:
-    vtkSmartPointer<vtkPoints> Points;
-    vtkSmartPointer<vtkCellArray> Cells;
     vtkSmartPointer<vtkPolyData> PolyData;
     vtkSmartPointer<vtkTrivialProducer> Producer;
 };

@@ -7,3 +7,9 @@ void ForwardPick(int32_t windowId, double x, double y, double z)
     CWindowManager::Forward<CWindow>(windowId,
                                      [&](CWindow& view) { view.UpdatePickText(x, y, z); });
 }
+
+void ForwardDrag(int32_t windowId, int32_t handle, double x, double y, double z, bool finished)
+{
+    CWindowManager::Forward<CWindow>(windowId, [&](CWindow& view)
+                                     { view.DragActiveElement(handle, x, y, z, finished); });
+}

@@ -22,10 +22,20 @@ bool IsValidNumber(double value)
 
 bool AreValidNumbers(std::initializer_list<double> values)
 {
+    return AreValidNumbers(std::span(values.begin(), values.size()));
+}
+
+bool AreValidNumbers(std::span<const double> values)
+{
     return std::all_of(values.begin(), values.end(), IsValidNumber);
 }
 
 bool AreDrawable(std::initializer_list<double> values)
+{
+    return AreDrawable(std::span(values.begin(), values.size()));
+}
+
+bool AreDrawable(std::span<const double> values)
 {
     constexpr double largest = 1e30;
     return std::all_of(values.begin(), values.end(),

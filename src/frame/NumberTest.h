@@ -2,13 +2,16 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 
 // False for NaN and for the values that hosts use as "no value" markers; infinities pass.
 bool IsValidNumber(double value);
 bool AreValidNumbers(std::initializer_list<double> values);
+bool AreValidNumbers(std::span<const double> values);
 // True when every value can be drawn without harm: one prop at 1e39 would leave the camera without
 // usable numbers for good.
 bool AreDrawable(std::initializer_list<double> values);
+bool AreDrawable(std::span<const double> values);
 // Out of range in a float becomes the largest one.
 float NarrowToFloat(double value);
 

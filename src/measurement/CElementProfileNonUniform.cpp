@@ -1,7 +1,6 @@
 #include "measurement/CElementProfileNonUniform.h"
 
 #include "Tarvex.h"
-#include "measurement/SurfaceGrid.h"
 
 #include <algorithm>
 
@@ -23,14 +22,7 @@ int32_t CElementProfileNonUniform::Initialize(const ElementSite& site, const int
     }
     XValues = std::make_unique_for_overwrite<int16_t[]>(static_cast<size_t>(count));
     std::copy_n(x, count, XValues.get());
-    for (int32_t sample = 0; sample < count; ++sample)
-    {
-        if (ZValues[sample] != InvalidHeight)
-        {
-            RawXMin = std::min(RawXMin, x[sample]);
-            RawXMax = std::max(RawXMax, x[sample]);
-        }
-    }
+    RawX = FindRangeWhereValid(XValues.get(), ZValues.get(), static_cast<size_t>(count));
     return STATUS_OK;
 }
 
@@ -44,6 +36,6 @@ void CElementProfileNonUniform::WriteX(float* x) const
 
 void CElementProfileNonUniform::GetXRange(double* xmin, double* xmax) const
 {
-    *xmin = X.Place(RawXMin);
-    *xmax = X.Place(RawXMax);
+    *xmin = X.Place(RawX.Minimum);
+    *xmax = X.Place(RawX.Maximum);
 }

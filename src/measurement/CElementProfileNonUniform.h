@@ -18,6 +18,5 @@ private:
     void GetXRange(double* xmin, double* xmax) const override;
 
     std::unique_ptr<int16_t[]> XValues;
-    int16_t RawXMin = 32767; // of the samples with a valid Z
-    int16_t RawXMax = -32768;
+    HeightRange RawX; // of the samples with a valid Z
 };

@@ -88,23 +88,32 @@ private:
         Height,
         Intensity
     };
+    // What the colours span. New values begin with new ranges.
+    struct Ranges
+    {
+        HeightRange Heights; // raw; clipped by ClipPercent
+        uint8_t IntensityMin = 0;
+        uint8_t IntensityMax = 255;
+    };
 
     static int32_t JudgeNumbers(const SurfaceGrid& grid);
     static int32_t JudgeGrid(const SurfaceGrid& grid);
     static Data CopyOf(const Source& source, const uint8_t* intensities, const SurfaceGrid& grid);
+    // STATUS_BAD_COUNT without a valid sample. Throws std::bad_alloc.
+    static int32_t FindRanges(const Data& data, double clipPercent, Ranges& ranges);
 
     // The pipeline that the given values need, with everything else as it is stored.
-    Pipeline MakePipeline(const Data& data, const HeightRange& range, Channel channel,
+    Pipeline MakePipeline(const Data& data, const Ranges& ranges, Channel channel,
                           bool fullCellsOnly) const;
     void SetLevels(SurfaceMapper& mapper, const Data& data, Channel channel) const;
-    void SetRange(SurfaceMapper& mapper, const Data& data, const HeightRange& range,
+    void SetRange(SurfaceMapper& mapper, const Data& data, const Ranges& ranges,
                   Channel channel) const;
     vtkSmartPointer<vtkLookupTable> MakeLookupTable(int32_t palette) const;
-    // Puts a finished pipeline in the place of the present one, into the scene.
+    // Into the scene, beside the present actor. Throws std::bad_alloc, with the scene unchanged.
+    void EnterScene(vtkActor* actor) const;
+    // Puts a finished pipeline, which is in the scene already, in the place of the present one.
     int32_t TakePipeline(Pipeline pipeline);
     int32_t SetAutoScale(double percent);
-    // Brings the stored range onto the present picture.
-    void ApplyRange();
     static uint8_t RoundToByte(double value);
     // Brings stored values and channel onto the present picture.
     int32_t UpdateScalars();
@@ -115,7 +124,7 @@ private:
     }
 
     Data Held;
-    HeightRange Range; // raw; clipped by ClipPercent
+    Ranges ColorRanges;
     // False after values without a valid sample: the picture is that of earlier values then.
     bool IsPictureOfData = false;
     bool FullCellsOnly = true;
@@ -125,8 +134,6 @@ private:
     bool AutoScale = true;    // colours follow the height range
     double FixedMin = -10.0;  // in height units, without AutoScale
     double FixedMax = 10.0;
-    uint8_t IntensityMin = 0;
-    uint8_t IntensityMax = 255;
     int32_t HeightPalette = 0;
     int32_t IntensityPalette;
 };

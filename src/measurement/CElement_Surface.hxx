@@ -69,6 +69,14 @@ auto CElement_Surface<Samples>::CopyOf(const Source& source, const uint8_t* inte
 }
 
 template <class Samples>
+int32_t CElement_Surface<Samples>::FindRanges(const Data& data, double clipPercent, Ranges& ranges)
+{
+    ranges = Ranges{};
+    return FindHeightRange(data.Values.Heights.get(), static_cast<size_t>(data.Grid.GetCount()),
+                           clipPercent, ranges.Heights);
+}
+
+template <class Samples>
 int32_t CElement_Surface<Samples>::InitializeFrom(const ElementSite& site, const Source& source,
                                                   const uint8_t* intensities,
                                                   const SurfaceGrid& grid, bool fullCellsOnly)
@@ -101,8 +109,7 @@ int32_t CElement_Surface<Samples>::InitializeFrom(const ElementSite& site, const
     try
     {
         Held = CopyOf(source, intensities, grid);
-        return FindHeightRange(Held.Values.Heights.get(), static_cast<size_t>(grid.GetCount()),
-                               ClipPercent, Range);
+        return FindRanges(Held, ClipPercent, ColorRanges);
     }
     catch (const std::bad_alloc&)
     {
@@ -119,7 +126,7 @@ int32_t CElement_Surface<Samples>::BuildPipeline()
     }
     try
     {
-        Pipeline pipeline = MakePipeline(Held, Range, Shown, FullCellsOnly);
+        Pipeline pipeline = MakePipeline(Held, ColorRanges, Shown, FullCellsOnly);
         Mapper = pipeline.Mapper;
         Actor = pipeline.Actor;
         IsPictureOfData = true;
@@ -154,23 +161,21 @@ int32_t CElement_Surface<Samples>::SetValueFrom(const Source& source, const uint
     try
     {
         Data data = CopyOf(source, intensities, grid);
-        HeightRange range;
-        status = FindHeightRange(data.Values.Heights.get(), static_cast<size_t>(grid.GetCount()),
-                                 ClipPercent, range);
+        Ranges ranges;
+        status = FindRanges(data, ClipPercent, ranges);
         if (status == STATUS_OK)
         {
-            pipeline = MakePipeline(data, range, channel, FullCellsOnly);
+            pipeline = MakePipeline(data, ranges, channel, FullCellsOnly);
+            EnterScene(pipeline.Actor);
         }
         Held = std::move(data);
-        Range = range;
+        ColorRanges = ranges;
     }
     catch (const std::bad_alloc&)
     {
         return STATUS_OUT_OF_MEMORY;
     }
     Shown = channel;
-    IntensityMin = 0;
-    IntensityMax = 255;
     IsPictureOfData = status == STATUS_OK;
     return status == STATUS_OK ? TakePipeline(std::move(pipeline)) : status;
 }
@@ -185,7 +190,8 @@ int32_t CElement_Surface<Samples>::SetRepresentationMode(bool fullCellsOnly)
     Pipeline pipeline;
     try
     {
-        pipeline = MakePipeline(Held, Range, Shown, fullCellsOnly);
+        pipeline = MakePipeline(Held, ColorRanges, Shown, fullCellsOnly);
+        EnterScene(pipeline.Actor);
     }
     catch (const std::bad_alloc&)
     {
@@ -210,14 +216,14 @@ int32_t CElement_Surface<Samples>::GetRepresentationMode(uint8_t* fullCellsOnly)
 // Neither scalars nor normals are made for the mesh: the mapper colours by the samples themselves,
 // and shades by the slope of each triangle.
 template <class Samples>
-auto CElement_Surface<Samples>::MakePipeline(const Data& data, const HeightRange& range,
+auto CElement_Surface<Samples>::MakePipeline(const Data& data, const Ranges& ranges,
                                              Channel channel, bool fullCellsOnly) const -> Pipeline
 {
     Pipeline made{vtkSmartPointer<SurfaceMapper>::New(), vtkSmartPointer<vtkActor>::New()};
     made.Mapper->SetMesh(SurfaceMeshBuilder<Samples>(data.Values, data.Grid).Build(!fullCellsOnly));
     made.Mapper->SetLookupTable(MakeLookupTable(GetPalette(channel)));
     SetLevels(*made.Mapper, data, channel);
-    SetRange(*made.Mapper, data, range, channel);
+    SetRange(*made.Mapper, data, ranges, channel);
 
     made.Actor->SetMapper(made.Mapper);
     made.Actor->GetProperty()->SetColor(1.0, 1.0, 1.0);
@@ -230,12 +236,23 @@ auto CElement_Surface<Samples>::MakePipeline(const Data& data, const HeightRange
 }
 
 template <class Samples>
+void CElement_Surface<Samples>::EnterScene(vtkActor* actor) const
+{
+    try
+    {
+        Renderer->AddActor(actor);
+    }
+    catch (const std::bad_alloc&)
+    {
+        Renderer->RemoveActor(actor);
+        throw;
+    }
+}
+
+template <class Samples>
 int32_t CElement_Surface<Samples>::TakePipeline(Pipeline pipeline)
 {
-    if (Actor && Renderer)
-    {
-        Renderer->RemoveActor(Actor);
-    }
+    Renderer->RemoveActor(Actor);
     // The old picture gives its memory back before the new one needs the same on the graphics side.
     Mapper = std::move(pipeline.Mapper);
     Actor = std::move(pipeline.Actor);
@@ -288,8 +305,8 @@ int32_t CElement_Surface<Samples>::GetBounds(bool widen, double* xmin, double* x
     *xmax = extent[1];
     *ymin = extent[2];
     *ymax = extent[3];
-    *zmin = AutoScale ? Held.Grid.Place(2, Range.Minimum) : FixedMin;
-    *zmax = AutoScale ? Held.Grid.Place(2, Range.Maximum) : FixedMax;
+    *zmin = AutoScale ? Held.Grid.Place(2, ColorRanges.Heights.Minimum) : FixedMin;
+    *zmax = AutoScale ? Held.Grid.Place(2, ColorRanges.Heights.Maximum) : FixedMax;
     if (widen)
     {
         WidenFlatRange(((*xmax - *xmin) + (*ymax - *ymin)) * 0.5, zmin, zmax);

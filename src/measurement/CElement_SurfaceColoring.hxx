@@ -40,15 +40,16 @@ void CElement_Surface<Samples>::SetLevels(SurfaceMapper& mapper, const Data& dat
 
 template <class Samples>
 void CElement_Surface<Samples>::SetRange(SurfaceMapper& mapper, const Data& data,
-                                         const HeightRange& range, Channel channel) const
+                                         const Ranges& ranges, Channel channel) const
 {
     if (channel == Channel::Intensity)
     {
-        mapper.SetScalarRange(IntensityMin, IntensityMax);
+        mapper.SetScalarRange(ranges.IntensityMin, ranges.IntensityMax);
     }
     else if (AutoScale)
     {
-        mapper.SetScalarRange(data.Grid.Place(2, range.Minimum), data.Grid.Place(2, range.Maximum));
+        mapper.SetScalarRange(data.Grid.Place(2, ranges.Heights.Minimum),
+                              data.Grid.Place(2, ranges.Heights.Maximum));
     }
     else
     {
@@ -92,7 +93,7 @@ int32_t CElement_Surface<Samples>::UpdateScalars()
     {
         auto& mapper = static_cast<SurfaceMapper&>(*Mapper);
         SetLevels(mapper, Held, Shown);
-        SetRange(mapper, Held, Range, Shown);
+        SetRange(mapper, Held, ColorRanges, Shown);
     }
     return STATUS_OK;
 }
@@ -198,8 +199,10 @@ int32_t CElement_Surface<Samples>::SetPalette(uint32_t palette)
         return STATUS_OUT_OF_RANGE;
     }
     const auto index = static_cast<int32_t>(palette);
+    // Throws with nothing changed.
+    const int32_t status = ApplyPalette(index);
     (Shown == Channel::Intensity ? IntensityPalette : HeightPalette) = index;
-    return ApplyPalette(index);
+    return status;
 }
 
 template <class Samples>
@@ -237,27 +240,27 @@ int32_t CElement_Surface<Samples>::SetZScaling(bool autoScale, double percent, d
         {
             return STATUS_OUT_OF_RANGE;
         }
-        IntensityMin = RoundToByte(min);
-        IntensityMax = RoundToByte(max);
+        ColorRanges.IntensityMin = RoundToByte(min);
+        ColorRanges.IntensityMax = RoundToByte(max);
     }
     else
     {
         FixedMin = min;
         FixedMax = max;
     }
-    ApplyRange();
+    // Also onto a picture of earlier values: these ranges do not depend on the samples.
+    SetRange(static_cast<SurfaceMapper&>(*Mapper), Held, ColorRanges, Shown);
     return STATUS_OK;
 }
 
 template <class Samples>
 int32_t CElement_Surface<Samples>::SetAutoScale(double percent)
 {
-    HeightRange range;
+    Ranges ranges;
     int32_t status = STATUS_OK;
     try
     {
-        status = FindHeightRange(Held.Values.Heights.get(),
-                                 static_cast<size_t>(Held.Grid.GetCount()), percent, range);
+        status = FindRanges(Held, percent, ranges);
     }
     catch (const std::bad_alloc&)
     {
@@ -265,21 +268,13 @@ int32_t CElement_Surface<Samples>::SetAutoScale(double percent)
     }
     AutoScale = true;
     ClipPercent = percent;
-    Range = range;
-    IntensityMin = 0;
-    IntensityMax = 255;
-    ApplyRange();
-    return status;
-}
-
-template <class Samples>
-void CElement_Surface<Samples>::ApplyRange()
-{
-    // A picture of earlier values keeps the range that belongs to them.
-    if (IsPictureOfData)
+    ColorRanges = ranges;
+    // Without a valid sample there is no range, and the picture of earlier values keeps its own.
+    if (status == STATUS_OK)
     {
-        SetRange(static_cast<SurfaceMapper&>(*Mapper), Held, Range, Shown);
+        SetRange(static_cast<SurfaceMapper&>(*Mapper), Held, ColorRanges, Shown);
     }
+    return status;
 }
 
 template <class Samples>

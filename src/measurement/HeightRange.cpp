@@ -74,6 +74,21 @@ int32_t FindHeightRange(const int16_t* heights, size_t count, double clipPercent
     return STATUS_OK;
 }
 
+HeightRange FindRangeWhereValid(const int16_t* values, const int16_t* heights, size_t count)
+{
+    // Without branches, as above.
+    constexpr HeightRange none;
+    int16_t minimum = none.Minimum;
+    int16_t maximum = none.Maximum;
+    for (size_t i = 0; i < count; ++i)
+    {
+        const bool isMissing = heights[i] == InvalidHeight;
+        minimum = std::min(minimum, isMissing ? none.Minimum : values[i]);
+        maximum = std::max(maximum, isMissing ? none.Maximum : values[i]);
+    }
+    return {minimum, maximum};
+}
+
 void WidenFlatRange(double extent, double* lowest, double* highest)
 {
     if (extent * 0.3 > *highest - *lowest)

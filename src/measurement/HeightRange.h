@@ -19,6 +19,10 @@ struct HeightRange
 int32_t FindHeightRange(const int16_t* heights, size_t count, double clipPercent,
                         HeightRange& range);
 
+// Lowest and highest of the values whose heights are valid; the range of the initialiser if none
+// is.
+HeightRange FindRangeWhereValid(const int16_t* values, const int16_t* heights, size_t count);
+
 // Makes room above and below a range that is flat beside the extent of the data in the plane, so
 // that a scale frame around it can be read.
 void WidenFlatRange(double extent, double* lowest, double* highest);

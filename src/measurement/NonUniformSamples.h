@@ -28,8 +28,9 @@ struct NonUniformSamples
     std::shared_ptr<const int16_t[]> X;
     std::shared_ptr<const int16_t[]> Y;
     std::shared_ptr<const int16_t[]> Heights;
-    // Of the valid samples, raw; empty without one.
-    RawBox Extent;
+    // Of the valid samples, raw.
+    HeightRange XRange = {};
+    HeightRange YRange = {};
 
     // Throws std::bad_alloc.
     static NonUniformSamples CopyOf(const Source& source, const SurfaceGrid& grid)
@@ -41,23 +42,16 @@ struct NonUniformSamples
             std::copy_n(values, count, held.get());
             return held;
         };
-        NonUniformSamples samples{copy(source.X), copy(source.Y), copy(source.Z), {}};
-        for (size_t sample = 0; sample < count; ++sample)
-        {
-            if (samples.Heights[sample] != InvalidHeight)
-            {
-                samples.Extent.Include(0, samples.X[sample], samples.X[sample]);
-                samples.Extent.Include(1, samples.Y[sample], samples.Y[sample]);
-            }
-        }
-        return samples;
+        return {copy(source.X), copy(source.Y), copy(source.Z),
+                FindRangeWhereValid(source.X, source.Z, count),
+                FindRangeWhereValid(source.Y, source.Z, count)};
     }
 
     // The extent in the plane: xmin, xmax, ymin, ymax.
     std::array<double, 4> GetExtent(const SurfaceGrid& grid) const
     {
-        return {grid.Place(0, Extent.Lowest[0]), grid.Place(0, Extent.Highest[0]),
-                grid.Place(1, Extent.Lowest[1]), grid.Place(1, Extent.Highest[1])};
+        return {grid.Place(0, XRange.Minimum), grid.Place(0, XRange.Maximum),
+                grid.Place(1, YRange.Minimum), grid.Place(1, YRange.Maximum)};
     }
 
     // Writes the points of one row after another.

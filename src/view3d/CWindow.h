@@ -20,6 +20,7 @@
 
 class CCoordinateAxes;
 class CCubeAxesActor;
+class CElement_Draggable;
 class MyDefaultInteractorStyle;
 class vtkOrientationMarkerWidget;
 class vtkScalarBarActor;
@@ -88,6 +89,10 @@ public:
     int32_t EnableMouseInteraction(bool left, bool middle, bool right);
     int32_t GetActiveElement(int32_t* elementId);
     int32_t SetActiveElement(int32_t elementId);
+    // A handle of the active element under the mouse, in host coordinates. With `finished` the host
+    // hears of it, and may have deleted this view when the call returns.
+    void DragActiveElement(int32_t handle, double x, double y, double z, bool finished);
+    static constexpr int32_t NoHandle = 9999; // a drag ended without a position
 
     // Camera, in VTK's world frame (CWindowCamera.cpp)
     int32_t Camera_AutoSize();
@@ -134,6 +139,7 @@ public:
     CCubeAxesActor* GetCubeAxes() const;
     vtkScalarBarActor* GetScalarBar() const;
     vtkTextActor* GetPickTextActor() const;
+    MyDefaultInteractorStyle* GetDefaultStyle() const;
     CElement_Scene* FindElement(int32_t elementId) const { return Elements.Find(elementId); }
 
 private:
@@ -143,6 +149,9 @@ private:
     // The camera with everything in front of it visible, then a picture.
     int32_t ShowCamera();
     ElementSite MakeSite(const ElementDefaults* defaults) const;
+    // Null for elements that have no handles.
+    CElement_Draggable* FindDraggable(int32_t elementId) const;
+    // The styles forget the handles. Those of an element that stays are switched off before.
     void ClearActiveElement();
     void ShowOrientation();
     void HideOrientation();

@@ -65,16 +65,17 @@ int32_t CWindow::ShowElement(int32_t elementId, bool show)
 
 int32_t CWindow::SetColor(int32_t elementId, uint8_t red, uint8_t green, uint8_t blue)
 {
-    return OnElement<CElement_Base>(elementId, Render::AfterSuccess,
-                                    [&](CElement_Base& element)
-                                    { return element.SetColor(red, green, blue); });
+    return OnColoring<CElement_Base>(elementId, Render::AfterSuccess,
+                                     [&](CElement_Base& element)
+                                     { return element.SetColor(red, green, blue); });
 }
 
 int32_t CWindow::GetColor(int32_t elementId, uint8_t* red, uint8_t* green, uint8_t* blue)
 {
-    return OnElement<CElement_Base>(elementId, Render::AfterSuccess,
-                                    [&](CElement_Base& element)
-                                    { return element.GetColor(red, green, blue); });
+    // Connects the scalar bar anew like its setter, for hosts that rely on it.
+    return OnColoring<CElement_Base>(elementId, Render::AfterSuccess,
+                                     [&](CElement_Base& element)
+                                     { return element.GetColor(red, green, blue); });
 }
 
 int32_t CWindow::Remove(int32_t elementId)

@@ -1,4 +1,6 @@
 // What the mouse may do in a 3D view, and which element it may drag.
+#include "elements3d/CElement_Draggable.h"
+#include "frame/Forwarders.h"
 #include "interaction3d/MyDefaultInteractorStyle.h"
 #include "view3d/CWindow.h"
 
@@ -62,21 +64,80 @@ int32_t CWindow::GetActiveElement(int32_t* elementId)
 
 int32_t CWindow::SetActiveElement(int32_t elementId)
 {
+    constexpr double handleRadius = 0.05; // scene units
     return WhenReady(
         [&]() -> int32_t
         {
+            if (CElement_Draggable* former = FindDraggable(ActiveElementId))
+            {
+                former->ShowHandles(false, handleRadius);
+            }
             ClearActiveElement();
             if (elementId >= 0 && !Elements.Find(elementId))
             {
                 return STATUS_BAD_INDEX;
             }
-            // Only elements with handles become active, and no class has any yet. Asking for
-            // another one is no error.
+            CElement_Draggable* element = FindDraggable(elementId);
+            if (!element)
+            {
+                return STATUS_OK;
+            }
+            // An element that refuses its handles, or raises, leaves none active; no error either.
+            const int32_t shown = Guarded(
+                LastError, [&]() -> int32_t { return element->ShowHandles(true, handleRadius); });
+            if (shown != STATUS_OK)
+            {
+                element->ShowHandles(false, handleRadius);
+                return STATUS_OK;
+            }
+            ActiveElementId = elementId;
+            DefaultStyle->SetDragTarget({element->GetHandleActors(), element->GetHandleX(),
+                                         element->GetHandleY(), element->GetHandleZ(),
+                                         ForwardDrag});
             return STATUS_OK;
         });
+}
+
+CElement_Draggable* CWindow::FindDraggable(int32_t elementId) const
+{
+    return dynamic_cast<CElement_Draggable*>(Elements.Find(elementId));
 }
 
 void CWindow::ClearActiveElement()
 {
     ActiveElementId = -1;
+    DefaultStyle->SetDragTarget({});
+}
+
+void CWindow::DragActiveElement(int32_t handle, double x, double y, double z, bool finished)
+{
+    CElement_Draggable* element = FindDraggable(ActiveElementId);
+    if (!element)
+    {
+        return;
+    }
+    int32_t status = STATUS_OK;
+    if (handle != NoHandle)
+    {
+        status = element->MoveHandle(handle, x, y, z);
+        if (status == STATUS_OK)
+        {
+            RenderWindow->Render();
+        }
+    }
+    if (!finished)
+    {
+        return;
+    }
+    element->EndDrag();
+    if (status == STATUS_OK && ElementDraggedCallback)
+    {
+        // Last: the host may do anything now, also delete this view.
+        ElementDraggedCallback(Id, ActiveElementId);
+    }
+}
+
+MyDefaultInteractorStyle* CWindow::GetDefaultStyle() const
+{
+    return DefaultStyle;
 }

@@ -65,13 +65,13 @@ int32_t CWindow::ScalarBar_Add(int32_t elementId)
             {
                 return status;
             }
-            ScalarBarElementId = elementId;
             if (fresh)
             {
                 Configure(bar);
-                ScalarBar = bar;
                 Renderer->AddActor2D(bar);
+                ScalarBar = bar;
             }
+            ScalarBarElementId = elementId;
             return STATUS_OK;
         });
 }

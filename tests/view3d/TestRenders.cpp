@@ -124,6 +124,29 @@ TEST_F(Renders, OfCallsOnPointsAndLines)
     Expect(0, STATUS_BAD_INDEX, Tarvex_Element_GetLength_Line(Id, 9, &x, &y));
 }
 
+TEST_F(Renders, OfCallsOnShapesWithHandles)
+{
+    const double x3[] = {0, 1, 0};
+    const double y3[] = {0, 0, 1};
+    Expect(1, STATUS_OK, Tarvex_Element_Add_Cube(Id, 0, 0, 0, 1, 1, 1, 0, 0, &number));
+    Expect(1, STATUS_OK, Tarvex_Element_Cube_SetValue(Id, 0, NaN, 0, 0, 1, 1, 1, 0));
+    Expect(1, STATUS_OK, Tarvex_Element_Add_Cylinder(Id, 0, 0, 0, 1, 1, 1, 1, &number));
+    Expect(0, STATUS_OK, Tarvex_Element_Cylinder_GetValue(Id, 1, &x, &y, &z, &u, &v, &w, &x));
+    Expect(1, STATUS_OK, Tarvex_Element_Cylinder_SetValue(Id, 1, 0, 0, 0, 1, 1, 1, 1));
+    Expect(1, STATUS_TOO_SMALL, Tarvex_Element_Cylinder_SetValue2(Id, 1, 0, 0, 0, 0, 0, 0, 1, 1));
+    Expect(1, STATUS_OK, Tarvex_Element_Add_Polyhedron(Id, 3, x3, y3, y3, 0, 0, 1, 1, &number));
+    Expect(0, STATUS_OK, Tarvex_Element_Polyhedron_GetPointCount(Id, 2, &number));
+    Expect(1, STATUS_OK, Tarvex_Element_Polyhedron_SetHeight(Id, 2, 3));
+    Expect(1, STATUS_TOO_SMALL, Tarvex_Element_Polyhedron_SetHeight(Id, 2, 0));
+    Expect(1, STATUS_BAD_INDEX, Tarvex_Element_Polyhedron_ChangePoint(Id, 2, 3, 0, 0, 0));
+    Expect(1, STATUS_OK, Tarvex_Element_Polyhedron_InsertPoint(Id, 2, 3, 0, 0, 0));
+    Expect(1, STATUS_OK, Tarvex_Element_Polyhedron_RemovePoint(Id, 2, 3));
+    Expect(1, STATUS_OK, Tarvex_Element_Polyhedron_SetAxisDirection(Id, 2, 0, 1, 0));
+    Expect(1, STATUS_OK, Tarvex_Element_Polyhedron_SetValue(Id, 2, 3, x3, y3, y3, 0, 0, 1, 1));
+    Expect(0, STATUS_OK, Tarvex_Window_SetActiveElement(Id, 2));
+    Expect(0, STATUS_OK, Tarvex_Window_SetActiveElement(Id, -1));
+}
+
 TEST_F(Renders, OfCallsOnAUniformSurface)
 {
     const int16_t heights[] = {1, 2, 3, 4};

@@ -1,0 +1,44 @@
+#include "Library.h"
+
+#include <Tarvex.h>
+#include <TarvexExt.h>
+
+#include <array>
+#include <string>
+
+void Check(int32_t status, const char* call)
+{
+    if (status == STATUS_OK)
+    {
+        return;
+    }
+    std::array<char, 256> text{};
+    TarvexExt_GetLastError(text.data(), static_cast<int32_t>(text.size()));
+    std::string message = std::string(call) + " failed with status " + std::to_string(status);
+    if (text[0] != '\0')
+    {
+        message += std::string(" (") + text.data() + ")";
+    }
+    throw LibraryError(message);
+}
+
+void SetColor(int32_t view, int32_t element, const Color& color)
+{
+    Check(Tarvex_Element_SetColor(view, element, color.Red, color.Green, color.Blue),
+          "Tarvex_Element_SetColor");
+}
+
+void SetSize(int32_t view, int32_t element, double size)
+{
+    Check(Tarvex_Element_SetSize(view, element, size), "Tarvex_Element_SetSize");
+}
+
+SceneUpdate::SceneUpdate(int32_t view) : View(view)
+{
+    Check(TarvexExt_Window_BeginUpdate(View), "TarvexExt_Window_BeginUpdate");
+}
+
+SceneUpdate::~SceneUpdate()
+{
+    TarvexExt_Window_EndUpdate(View);
+}

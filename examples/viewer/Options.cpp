@@ -1,0 +1,187 @@
+#include "Options.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cmath>
+#include <cstdio>
+#include <stdexcept>
+
+namespace
+{
+// What has to be read more closely than CLI11 does.
+struct Words
+{
+    std::string Size = "1100x800";
+    std::string Mode = "points";
+    std::string Scene = "surface";
+    std::string Exaggeration = "auto";
+    std::string MissingCount = "0";
+    std::string Range;
+};
+
+void DeclareInput(CLI::App& app, Options& options, Words& words)
+{
+    app.add_option("file", options.Files,
+                   "measurements to show: elevation tiles (.hgt), raw grids with a description "
+                   "beside them (.i16 and .txt; one row is a profile), raw surfaces with free "
+                   "positions (NAME_x.i16, with NAME_y and NAME_z beside it), grey height pictures "
+                   "(.png)")
+        ->required();
+    app.add_option("--intensity", options.Intensity,
+                   "brightness of each sample: 8-bit .pgm (P5) or grey .png of the same size");
+    app.add_option("--x-scale", options.Load.XScale,
+                   "distance of columns (or of one count), instead of the file's");
+    app.add_option("--y-scale", options.Load.YScale,
+                   "distance of rows (or of one count), instead of the file's");
+    app.add_option("--z-scale", options.Load.ZScale, "height of one count, instead of the file's");
+    app.add_option("--unit", options.Load.Unit, "unit of the scales: nm, um, mm, m, km or a name");
+    app.add_option("--missing", words.MissingCount,
+                   "count that marks missing samples of a .png, or none")
+        ->capture_default_str();
+    app.add_option("--trim", options.Load.TrimPercent,
+                   "percent of the samples to leave out as outliers at each end")
+        ->check(CLI::Range(0.0, 49.0));
+}
+
+void DeclareLook(CLI::App& app, Options& options, Words& words)
+{
+    app.add_option("--mode", words.Mode, "full: complete cells only; points: isolated samples too")
+        ->check(CLI::IsMember({"full", "points"}))
+        ->capture_default_str();
+    app.add_option("--z-exaggeration", words.Exaggeration,
+                   "factor on the heights, or auto; scales, bar and coordinates show heights times "
+                   "this factor")
+        ->capture_default_str();
+    app.add_option("--palette", options.Look.Surface.Palette,
+                   "colours of the heights: 0 rainbow, 1 spectrum, 2 red, 3 green, 4 blue, 5 grey, "
+                   "6 one colour")
+        ->check(CLI::Range(0, 6));
+    app.add_option("--range", words.Range,
+                   "heights from the first to the last colour: auto, PERCENT% to leave out at each "
+                   "end, or MIN:MAX");
+    app.add_option("--profiles", options.Look.Profiles,
+                   "draw this many rows of the surface as profiles above it")
+        ->check(CLI::Range(0, 1000));
+    app.add_option("--scene", words.Scene,
+                   "surface: marks at the lowest and highest sample; geometry: geometric elements "
+                   "on the features of the laser scan")
+        ->check(CLI::IsMember({"surface", "geometry"}))
+        ->capture_default_str();
+    app.add_flag("--frame", options.Around.Frame, "scale frame around the measurement");
+    app.add_flag("--bar", options.Around.Bar, "bar of the surface's colours");
+    app.add_flag("--axes", options.Around.Axes, "coordinate axes");
+    app.add_flag("--marker", options.Around.Marker, "orientation marker in the corner");
+    app.add_flag("--coordinates", options.Around.Coordinates, "coordinates under the mouse");
+}
+
+void DeclareOutput(CLI::App& app, Options& options, Words& words)
+{
+    app.add_option("--size", words.Size, "size of the window")->capture_default_str();
+    app.add_option("--screenshot", options.Screenshot, "write the picture to this PNG and end");
+    app.add_flag("--print", options.Print, "print numbers about the data and the time it took");
+    app.footer("Keys: r frames the scene, 0 to 5 look along an axis, p parallel projection,\n"
+               "c next palette, + and - clip more or less of the heights, i intensity,\n"
+               "m isolated samples, f scale frame, b bar, a coordinate axes, o orientation\n"
+               "marker, x coordinates under the mouse, h handles on the next element that can be\n"
+               "dragged, n next file, q or Escape end.");
+}
+
+// The whole text as a finite number, or nothing.
+std::optional<double> ToNumber(const std::string& text)
+{
+    size_t used = 0;
+    try
+    {
+        const double number = std::stod(text, &used);
+        return used == text.size() && std::isfinite(number) ? std::optional(number) : std::nullopt;
+    }
+    catch (const std::logic_error&)
+    {
+        return std::nullopt;
+    }
+}
+
+ColorRange ToRange(const std::string& text)
+{
+    ColorRange range;
+    if (text == "auto")
+    {
+        return range;
+    }
+    const size_t colon = text.find(':');
+    if (colon != std::string::npos)
+    {
+        const auto min = ToNumber(text.substr(0, colon));
+        const auto max = ToNumber(text.substr(colon + 1));
+        if (min && max && *min < *max)
+        {
+            return {true, 0.0, *min, *max};
+        }
+    }
+    else if (!text.empty() && text.back() == '%')
+    {
+        const auto percent = ToNumber(text.substr(0, text.size() - 1));
+        if (percent && *percent >= 0.0 && *percent <= 45.0)
+        {
+            range.ClipPercent = *percent;
+            return range;
+        }
+    }
+    throw std::runtime_error("--range: auto, 0% to 45%, or MIN:MAX with MIN below MAX is wanted");
+}
+
+void Interpret(const Words& words, Options& options)
+{
+    char rest = '\0';
+    if (std::sscanf(words.Size.c_str(), "%5dx%5d%c", &options.Width, &options.Height, &rest) != 2 ||
+        options.Width < 16 || options.Height < 16 || options.Width > 16384 ||
+        options.Height > 16384)
+    {
+        throw std::runtime_error("--size: " + words.Size + " is no size such as 1100x800");
+    }
+    const auto missing = ToNumber(words.MissingCount);
+    if (words.MissingCount != "none" &&
+        !(missing && *missing >= 0 && *missing <= 65535 && *missing == std::floor(*missing)))
+    {
+        throw std::runtime_error("--missing: a count from 0 to 65535 or none is wanted");
+    }
+    options.Load.MissingCount =
+        missing ? std::optional(static_cast<int32_t>(*missing)) : std::nullopt;
+    options.Exaggeration = ToNumber(words.Exaggeration);
+    if (words.Exaggeration != "auto" && !(options.Exaggeration && *options.Exaggeration > 0.0))
+    {
+        throw std::runtime_error("--z-exaggeration: a number above 0 or auto is wanted");
+    }
+    if (!words.Range.empty())
+    {
+        options.Look.Surface.Range = ToRange(words.Range);
+    }
+    options.Look.Surface.IsolatedSamples = words.Mode == "points";
+    options.Look.Geometry = words.Scene == "geometry";
+    if (options.Files.size() > 1 && !(options.Screenshot.empty() && options.Intensity.empty()))
+    {
+        throw std::runtime_error("--screenshot and --intensity go with one file only");
+    }
+}
+} // namespace
+
+std::optional<Options> ReadOptions(int argc, char** argv, int& exitStatus)
+{
+    Options options;
+    Words words;
+    CLI::App app("Shows measured surfaces and profiles in three dimensions.", "tarvex_viewer");
+    DeclareInput(app, options, words);
+    DeclareLook(app, options, words);
+    DeclareOutput(app, options, words);
+    try
+    {
+        app.parse(argc, argv);
+    }
+    catch (const CLI::ParseError& error)
+    {
+        exitStatus = app.exit(error);
+        return std::nullopt;
+    }
+    Interpret(words, options);
+    return options;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "HeightMap.h"
+
+#include <cstdint>
+
+// Lays rows of a map into a 3D view as profiles. Throws LibraryError.
+
+// The only row of a measured profile; gives the element's id.
+int32_t AddProfile(int32_t view, const HeightMap& profile, double exaggeration);
+
+// Evenly spaced rows of a surface, lifted a little above it: on its cells they would be half
+// hidden. Rows without two valid samples are left out.
+void AddProfiles(int32_t view, const HeightMap& surface, double exaggeration, int32_t count);

@@ -1,0 +1,150 @@
+#include "SurfaceElement.h"
+
+#include "Library.h"
+
+#include <Tarvex.h>
+
+#include <algorithm>
+#include <array>
+
+struct SurfaceCalls
+{
+    decltype(&Tarvex_Element_GetPalette_SurfaceUniform) GetPalette;
+    decltype(&Tarvex_Element_SetPalette_SurfaceUniform) SetPalette;
+    decltype(&Tarvex_Element_GetZScalingPalette_SurfaceUniform) GetRange;
+    decltype(&Tarvex_Element_ZScalingPalette_SurfaceUniform) SetRange;
+    decltype(&Tarvex_Element_ShowIntensity_SurfaceUniform) ShowIntensity;
+    decltype(&Tarvex_Element3D_SurfaceUniform_GetRepresentationMode) GetMode;
+    decltype(&Tarvex_Element3D_SurfaceUniform_SetRepresentationMode) SetMode;
+};
+
+namespace
+{
+constexpr SurfaceCalls RegularGridCalls = {
+    Tarvex_Element_GetPalette_SurfaceUniform,
+    Tarvex_Element_SetPalette_SurfaceUniform,
+    Tarvex_Element_GetZScalingPalette_SurfaceUniform,
+    Tarvex_Element_ZScalingPalette_SurfaceUniform,
+    Tarvex_Element_ShowIntensity_SurfaceUniform,
+    Tarvex_Element3D_SurfaceUniform_GetRepresentationMode,
+    Tarvex_Element3D_SurfaceUniform_SetRepresentationMode,
+};
+constexpr SurfaceCalls FreePositionCalls = {
+    Tarvex_Element_GetPalette_SurfaceNonUniform,
+    Tarvex_Element_SetPalette_SurfaceNonUniform,
+    Tarvex_Element_GetZScalingPalette_SurfaceNonUniform,
+    Tarvex_Element_ZScalingPalette_SurfaceNonUniform,
+    Tarvex_Element_ShowIntensity_SurfaceNonUniform,
+    Tarvex_Element3D_SurfaceNonUniform_GetRepresentationMode,
+    Tarvex_Element3D_SurfaceNonUniform_SetRepresentationMode,
+};
+
+constexpr uint32_t PaletteCount = TARVEX_PALETTE_SINGLE_COLOR + 1;
+constexpr std::array ClipSteps = {0.0, 0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 40.0};
+} // namespace
+
+SurfaceElement::SurfaceElement(int32_t view, const HeightMap& map, const SurfaceLook& look)
+    : View(view), Calls(map.HasFreePositions() ? FreePositionCalls : RegularGridCalls),
+      HasIntensities(!map.Intensities.empty())
+{
+    Add(map, look);
+    // Heights and intensities have colours of their own; these are for the heights, shown first.
+    if (look.Palette)
+    {
+        Check(Calls.SetPalette(View, Element, static_cast<uint32_t>(*look.Palette)),
+              "Tarvex_Element_SetPalette");
+    }
+    if (look.Range)
+    {
+        UseRange(*look.Range, look.Exaggeration);
+    }
+    if (HasIntensities)
+    {
+        ShowIntensity(true);
+        // A camera often uses a small part of 0 to 255, which would be one grey.
+        const auto [darkest, brightest] =
+            std::minmax_element(map.Intensities.begin(), map.Intensities.end());
+        Check(Calls.SetRange(View, Element, 0, 0.0, std::min<int32_t>(*darkest, 254),
+                             std::max<int32_t>(*brightest, *darkest + 1)),
+              "Tarvex_Element_ZScalingPalette");
+    }
+}
+
+void SurfaceElement::Add(const HeightMap& map, const SurfaceLook& look)
+{
+    const uint8_t* intensities = HasIntensities ? map.Intensities.data() : nullptr;
+    const double zScale = map.ZScale * look.Exaggeration;
+    const double zOffset = map.ZOffset * look.Exaggeration;
+    const uint8_t mode = look.IsolatedSamples ? TARVEX_MESH_CELLS_AND_POINTS : TARVEX_MESH_CELLS;
+    if (map.HasFreePositions())
+    {
+        Check(Tarvex_Element_Add_SurfaceNonUniform(
+                  View, map.XSamples.data(), map.YSamples.data(), map.Samples.data(), intensities,
+                  map.Columns, map.Rows, map.XScale, map.YScale, zScale, map.XOffset, map.YOffset,
+                  zOffset, mode, &Element),
+              "Tarvex_Element_Add_SurfaceNonUniform");
+        return;
+    }
+    Check(Tarvex_Element_Add_SurfaceUniform(View, map.Samples.data(), intensities, map.Columns,
+                                            map.Rows, map.XScale, map.YScale, zScale, map.XOffset,
+                                            map.YOffset, zOffset, mode, &Element),
+          "Tarvex_Element_Add_SurfaceUniform");
+}
+
+void SurfaceElement::UseRange(const ColorRange& range, double exaggeration)
+{
+    Check(Calls.SetRange(View, Element, range.Fixed ? 0 : 1, range.ClipPercent,
+                         range.Min * exaggeration, range.Max * exaggeration),
+          "Tarvex_Element_ZScalingPalette");
+}
+
+void SurfaceElement::UseNextPalette()
+{
+    uint32_t palette = 0;
+    Check(Calls.GetPalette(View, Element, &palette), "Tarvex_Element_GetPalette");
+    Check(Calls.SetPalette(View, Element, (palette + 1) % PaletteCount),
+          "Tarvex_Element_SetPalette");
+}
+
+void SurfaceElement::ChangeClipping(int32_t steps)
+{
+    if (IntensityShown)
+    {
+        return; // only heights have a range that follows the data
+    }
+    uint8_t automatic = 0;
+    double percent = 0.0;
+    double min = 0.0;
+    double max = 0.0;
+    Check(Calls.GetRange(View, Element, &automatic, &percent, &min, &max),
+          "Tarvex_Element_GetZScalingPalette");
+    // From a fixed range the first press goes to all of the data.
+    const auto found = std::lower_bound(ClipSteps.begin(), ClipSteps.end(), percent);
+    const auto last = static_cast<int32_t>(ClipSteps.size()) - 1;
+    const int32_t next =
+        automatic != 0 ? static_cast<int32_t>(found - ClipSteps.begin()) + steps : 0;
+    percent = ClipSteps[static_cast<size_t>(std::clamp(next, 0, last))];
+    Check(Calls.SetRange(View, Element, 1, percent, min, max), "Tarvex_Element_ZScalingPalette");
+}
+
+void SurfaceElement::ToggleIsolatedSamples()
+{
+    uint8_t mode = TARVEX_MESH_CELLS;
+    Check(Calls.GetMode(View, Element, &mode), "Tarvex_Element3D_GetRepresentationMode");
+    mode = mode == TARVEX_MESH_CELLS ? TARVEX_MESH_CELLS_AND_POINTS : TARVEX_MESH_CELLS;
+    Check(Calls.SetMode(View, Element, mode), "Tarvex_Element3D_SetRepresentationMode");
+}
+
+void SurfaceElement::ToggleIntensity()
+{
+    if (HasIntensities)
+    {
+        ShowIntensity(!IntensityShown);
+    }
+}
+
+void SurfaceElement::ShowIntensity(bool show)
+{
+    Check(Calls.ShowIntensity(View, Element, show ? 1 : 0), "Tarvex_Element_ShowIntensity");
+    IntensityShown = show;
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "HeightMap.h"
+
+#include <cstdint>
+#include <optional>
+
+// Which heights take the first and the last colour of the palette.
+struct ColorRange
+{
+    bool Fixed = false;       // from Min to Max rather than from the data
+    double ClipPercent = 0.0; // share of the samples beyond the colours at each end
+    double Min = 0.0;         // heights of the map, without the view's exaggeration
+    double Max = 0.0;
+};
+
+struct SurfaceLook
+{
+    double Exaggeration = 1.0;   // factor on all heights
+    bool IsolatedSamples = true; // draw also samples that lie in no complete cell
+    std::optional<int32_t> Palette;
+    std::optional<ColorRange> Range;
+};
+
+struct SurfaceCalls;
+
+// One measured surface in a 3D view. On a regular grid or with free positions: the library has a
+// family of calls for each, here they are handled alike. Throws LibraryError.
+class SurfaceElement
+{
+public:
+    // Adds the surface to the view. It shows its intensities if it has any.
+    SurfaceElement(int32_t view, const HeightMap& map, const SurfaceLook& look);
+
+    int32_t Id() const { return Element; }
+    void UseNextPalette();
+    void ClipMore() { ChangeClipping(+1); }
+    void ClipLess() { ChangeClipping(-1); }
+    void ToggleIsolatedSamples();
+    void ToggleIntensity(); // does nothing for a surface without intensities
+
+private:
+    void Add(const HeightMap& map, const SurfaceLook& look);
+    void UseRange(const ColorRange& range, double exaggeration);
+    void ChangeClipping(int32_t steps);
+    void ShowIntensity(bool show);
+
+    int32_t View;
+    const SurfaceCalls& Calls;
+    int32_t Element = -1;
+    bool HasIntensities;
+    bool IntensityShown = false;
+};
