@@ -104,8 +104,9 @@ public:
         Check(Tarvex_Element_Add_Plane(View, top.Constant * Exaggeration / length, normal[0],
                                        normal[1], normal[2], &element),
               "Tarvex_Element_Add_Plane");
-        SetColor(View, element, Cyan);
-        Check(Tarvex_Element_SetTransparency(View, element, 0.5), "Tarvex_Element_SetTransparency");
+        SetFlatColor(View, element, Cyan);
+        Check(Tarvex_Element_SetTransparency(View, element, 0.65),
+              "Tarvex_Element_SetTransparency");
         const double margin = 0.06 * (right - left);
         Check(Tarvex_Element_SetDrawSize_Plane(View, element, left - margin, right + margin,
                                                front - margin, back + margin, low, high + margin),
@@ -193,7 +194,7 @@ private:
 
     void Paint(int32_t element, const Color& color) const
     {
-        SetColor(View, element, color);
+        SetFlatColor(View, element, color);
         SetSize(View, element, LineWidth);
     }
 

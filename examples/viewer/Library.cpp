@@ -33,6 +33,13 @@ void SetSize(int32_t view, int32_t element, double size)
     Check(Tarvex_Element_SetSize(view, element, size), "Tarvex_Element_SetSize");
 }
 
+void SetFlatColor(int32_t view, int32_t element, const Color& color)
+{
+    SetColor(view, element, color);
+    Check(Tarvex_Element_SetLighting(view, element, 1.0, 0.0, 0.0, 1.0),
+          "Tarvex_Element_SetLighting");
+}
+
 SceneUpdate::SceneUpdate(int32_t view) : View(view)
 {
     Check(TarvexExt_Window_BeginUpdate(View), "TarvexExt_Window_BeginUpdate");

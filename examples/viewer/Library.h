@@ -23,6 +23,10 @@ struct Color
 void SetColor(int32_t view, int32_t element, const Color& color);
 void SetSize(int32_t view, int32_t element, double size);
 
+// Exactly the given colour, whatever the light: many new elements add ambient and diffuse light up,
+// which bleaches bright colours.
+void SetFlatColor(int32_t view, int32_t element, const Color& color);
+
 // Holds the pictures of a view back while it lives, so that many changes cost one picture.
 class SceneUpdate
 {

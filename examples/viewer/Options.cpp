@@ -16,7 +16,7 @@ struct Words
     std::string Scene = "surface";
     std::string Exaggeration = "auto";
     std::string MissingCount = "0";
-    std::string Range;
+    std::string Range = "auto";
 };
 
 void DeclareInput(CLI::App& app, Options& options, Words& words)
@@ -58,7 +58,8 @@ void DeclareLook(CLI::App& app, Options& options, Words& words)
         ->check(CLI::Range(0, 6));
     app.add_option("--range", words.Range,
                    "heights from the first to the last colour: auto, PERCENT% to leave out at each "
-                   "end, or MIN:MAX");
+                   "end, or MIN:MAX")
+        ->capture_default_str();
     app.add_option("--profiles", options.Look.Profiles,
                    "draw this many rows of the surface as profiles above it")
         ->check(CLI::Range(0, 1000));
@@ -152,10 +153,7 @@ void Interpret(const Words& words, Options& options)
     {
         throw std::runtime_error("--z-exaggeration: a number above 0 or auto is wanted");
     }
-    if (!words.Range.empty())
-    {
-        options.Look.Surface.Range = ToRange(words.Range);
-    }
+    options.Look.Surface.Range = ToRange(words.Range);
     options.Look.Surface.IsolatedSamples = words.Mode == "points";
     options.Look.Geometry = words.Scene == "geometry";
     if (options.Files.size() > 1 && !(options.Screenshot.empty() && options.Intensity.empty()))

@@ -9,8 +9,8 @@
 
 namespace
 {
-// In no palette, so that the lines stand out from every surface.
-constexpr Color LineOnSurface = {255, 90, 200};
+// Apart from the low end of the dark palettes no surface is black.
+constexpr Color LineOnSurface = {0, 0, 0};
 constexpr Color LineAlone = {110, 220, 255};
 constexpr double LineWidth = 2.5;
 
@@ -39,8 +39,8 @@ Row DescribeRow(const HeightMap& map, int32_t number)
     return row;
 }
 
-int32_t AddRow(int32_t view, const HeightMap& map, const Row& row, double exaggeration, double lift,
-               const Color& color)
+void AddRow(int32_t view, const HeightMap& map, const Row& row, double exaggeration, double lift,
+            const Color& color)
 {
     const int16_t* heights = map.Samples.data() + row.First;
     const double zScale = map.ZScale * exaggeration;
@@ -59,15 +59,14 @@ int32_t AddRow(int32_t view, const HeightMap& map, const Row& row, double exagge
                                                 map.XOffset, zOffset, row.Y, &element),
               "Tarvex_Element_Add_ProfileUniform");
     }
-    SetColor(view, element, color);
+    SetFlatColor(view, element, color);
     SetSize(view, element, LineWidth);
-    return element;
 }
 } // namespace
 
-int32_t AddProfile(int32_t view, const HeightMap& profile, double exaggeration)
+void AddProfile(int32_t view, const HeightMap& profile, double exaggeration)
 {
-    return AddRow(view, profile, DescribeRow(profile, 0), exaggeration, 0.0, LineAlone);
+    AddRow(view, profile, DescribeRow(profile, 0), exaggeration, 0.0, LineAlone);
 }
 
 void AddProfiles(int32_t view, const HeightMap& surface, double exaggeration, int32_t count)

@@ -6,8 +6,8 @@
 
 // Lays rows of a map into a 3D view as profiles. Throws LibraryError.
 
-// The only row of a measured profile; gives the element's id.
-int32_t AddProfile(int32_t view, const HeightMap& profile, double exaggeration);
+// The only row of a measured profile.
+void AddProfile(int32_t view, const HeightMap& profile, double exaggeration);
 
 // Evenly spaced rows of a surface, lifted a little above it: on its cells they would be half
 // hidden. Rows without two valid samples are left out.

@@ -11,7 +11,6 @@ struct SurfaceCalls
 {
     decltype(&Tarvex_Element_GetPalette_SurfaceUniform) GetPalette;
     decltype(&Tarvex_Element_SetPalette_SurfaceUniform) SetPalette;
-    decltype(&Tarvex_Element_GetZScalingPalette_SurfaceUniform) GetRange;
     decltype(&Tarvex_Element_ZScalingPalette_SurfaceUniform) SetRange;
     decltype(&Tarvex_Element_ShowIntensity_SurfaceUniform) ShowIntensity;
     decltype(&Tarvex_Element3D_SurfaceUniform_GetRepresentationMode) GetMode;
@@ -23,7 +22,6 @@ namespace
 constexpr SurfaceCalls RegularGridCalls = {
     Tarvex_Element_GetPalette_SurfaceUniform,
     Tarvex_Element_SetPalette_SurfaceUniform,
-    Tarvex_Element_GetZScalingPalette_SurfaceUniform,
     Tarvex_Element_ZScalingPalette_SurfaceUniform,
     Tarvex_Element_ShowIntensity_SurfaceUniform,
     Tarvex_Element3D_SurfaceUniform_GetRepresentationMode,
@@ -32,7 +30,6 @@ constexpr SurfaceCalls RegularGridCalls = {
 constexpr SurfaceCalls FreePositionCalls = {
     Tarvex_Element_GetPalette_SurfaceNonUniform,
     Tarvex_Element_SetPalette_SurfaceNonUniform,
-    Tarvex_Element_GetZScalingPalette_SurfaceNonUniform,
     Tarvex_Element_ZScalingPalette_SurfaceNonUniform,
     Tarvex_Element_ShowIntensity_SurfaceNonUniform,
     Tarvex_Element3D_SurfaceNonUniform_GetRepresentationMode,
@@ -45,7 +42,7 @@ constexpr std::array ClipSteps = {0.0, 0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 40.0};
 
 SurfaceElement::SurfaceElement(int32_t view, const HeightMap& map, const SurfaceLook& look)
     : View(view), Calls(map.HasFreePositions() ? FreePositionCalls : RegularGridCalls),
-      HasIntensities(!map.Intensities.empty())
+      Range(look.Range), Exaggeration(look.Exaggeration), HasIntensities(!map.Intensities.empty())
 {
     Add(map, look);
     // Heights and intensities have colours of their own; these are for the heights, shown first.
@@ -54,10 +51,7 @@ SurfaceElement::SurfaceElement(int32_t view, const HeightMap& map, const Surface
         Check(Calls.SetPalette(View, Element, static_cast<uint32_t>(*look.Palette)),
               "Tarvex_Element_SetPalette");
     }
-    if (look.Range)
-    {
-        UseRange(*look.Range, look.Exaggeration);
-    }
+    UseRange();
     if (HasIntensities)
     {
         ShowIntensity(true);
@@ -91,10 +85,10 @@ void SurfaceElement::Add(const HeightMap& map, const SurfaceLook& look)
           "Tarvex_Element_Add_SurfaceUniform");
 }
 
-void SurfaceElement::UseRange(const ColorRange& range, double exaggeration)
+void SurfaceElement::UseRange()
 {
-    Check(Calls.SetRange(View, Element, range.Fixed ? 0 : 1, range.ClipPercent,
-                         range.Min * exaggeration, range.Max * exaggeration),
+    Check(Calls.SetRange(View, Element, Range.Fixed ? 0 : 1, Range.ClipPercent,
+                         Range.Min * Exaggeration, Range.Max * Exaggeration),
           "Tarvex_Element_ZScalingPalette");
 }
 
@@ -112,19 +106,13 @@ void SurfaceElement::ChangeClipping(int32_t steps)
     {
         return; // only heights have a range that follows the data
     }
-    uint8_t automatic = 0;
-    double percent = 0.0;
-    double min = 0.0;
-    double max = 0.0;
-    Check(Calls.GetRange(View, Element, &automatic, &percent, &min, &max),
-          "Tarvex_Element_GetZScalingPalette");
     // From a fixed range the first press goes to all of the data.
-    const auto found = std::lower_bound(ClipSteps.begin(), ClipSteps.end(), percent);
+    const auto found = std::lower_bound(ClipSteps.begin(), ClipSteps.end(), Range.ClipPercent);
     const auto last = static_cast<int32_t>(ClipSteps.size()) - 1;
-    const int32_t next =
-        automatic != 0 ? static_cast<int32_t>(found - ClipSteps.begin()) + steps : 0;
-    percent = ClipSteps[static_cast<size_t>(std::clamp(next, 0, last))];
-    Check(Calls.SetRange(View, Element, 1, percent, min, max), "Tarvex_Element_ZScalingPalette");
+    const int32_t next = Range.Fixed ? 0 : static_cast<int32_t>(found - ClipSteps.begin()) + steps;
+    Range = {};
+    Range.ClipPercent = ClipSteps[static_cast<size_t>(std::clamp(next, 0, last))];
+    UseRange();
 }
 
 void SurfaceElement::ToggleIsolatedSamples()
@@ -147,4 +135,9 @@ void SurfaceElement::ShowIntensity(bool show)
 {
     Check(Calls.ShowIntensity(View, Element, show ? 1 : 0), "Tarvex_Element_ShowIntensity");
     IntensityShown = show;
+    if (!show)
+    {
+        // The range that was set for the intensities has ended the automatic one of the heights.
+        UseRange();
+    }
 }

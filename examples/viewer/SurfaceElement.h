@@ -19,7 +19,7 @@ struct SurfaceLook
     double Exaggeration = 1.0;   // factor on all heights
     bool IsolatedSamples = true; // draw also samples that lie in no complete cell
     std::optional<int32_t> Palette;
-    std::optional<ColorRange> Range;
+    ColorRange Range;
 };
 
 struct SurfaceCalls;
@@ -41,12 +41,14 @@ public:
 
 private:
     void Add(const HeightMap& map, const SurfaceLook& look);
-    void UseRange(const ColorRange& range, double exaggeration);
+    void UseRange();
     void ChangeClipping(int32_t steps);
     void ShowIntensity(bool show);
 
     int32_t View;
     const SurfaceCalls& Calls;
+    ColorRange Range;
+    double Exaggeration;
     int32_t Element = -1;
     bool HasIntensities;
     bool IntensityShown = false;

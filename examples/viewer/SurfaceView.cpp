@@ -9,6 +9,7 @@
 #include <TarvexExt.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace
@@ -16,8 +17,13 @@ namespace
 // A dark grey blue: no palette colour, so that holes in the data are seen as holes.
 constexpr Color Background = {28, 32, 40};
 
-// The library leaves room for the sphere around the scene; a flat surface can come nearer.
-constexpr double Nearer = 1.4;
+// The library leaves room for the sphere around the scene; a flat surface can come nearer, as far
+// as the labels of the frame leave room.
+constexpr double Nearer = 1.35;
+constexpr double NearerWithFrame = 1.2;
+
+// Share of the scene's size by which it moves to the left to make room for the bar.
+constexpr double RoomForBar = 0.09;
 } // namespace
 
 SurfaceView::SurfaceView(void* parentWindow, int32_t width, int32_t height,
@@ -50,17 +56,18 @@ void SurfaceView::Show(const HeightMap& map, const HeightStatistics& statistics,
     ShownSurface.reset();
     Check(Tarvex_Element_RemoveAll(Id), "Tarvex_Element_RemoveAll");
     const double exaggeration = look.Surface.Exaggeration;
-    SetDrawSpace(DescribeExtent(map), map.Height(statistics.Lowest) * exaggeration,
-                 map.Height(statistics.Highest) * exaggeration);
+    Size = DescribeExtent(map);
+    Lowest = map.Height(statistics.Lowest) * exaggeration;
+    Highest = map.Height(statistics.Highest) * exaggeration;
+    SetDrawSpace();
     if (map.IsProfile())
     {
-        Measured = AddProfile(Id, map, exaggeration);
+        AddProfile(Id, map, exaggeration);
         ApplyFurniture();
         ShowFrom(TARVEX_VIEW_FRONT);
         return;
     }
     ShownSurface.emplace(Id, map, look.Surface);
-    Measured = ShownSurface->Id();
     if (look.Profiles > 0)
     {
         AddProfiles(Id, map, exaggeration, look.Profiles);
@@ -78,22 +85,22 @@ void SurfaceView::Show(const HeightMap& map, const HeightStatistics& statistics,
     Frame();
 }
 
-void SurfaceView::SetDrawSpace(const Extent& extent, double low, double high)
+void SurfaceView::SetDrawSpace()
 {
     // The box has to have some size for a perfectly flat surface and for a profile too.
-    const double heightRoom = std::max(0.0, 1.0 - (high - low)) / 2.0;
-    const double depthRoom = std::max(0.0, 1.0 - extent.Depth()) / 2.0;
-    Check(Tarvex_Window_SetDrawSpace(Id, extent.XMin, extent.XMax, extent.YMin - depthRoom,
-                                     extent.YMax + depthRoom, low - heightRoom, high + heightRoom),
+    const double heightRoom = std::max(0.0, 1.0 - (Highest - Lowest)) / 2.0;
+    const double depthRoom = std::max(0.0, 1.0 - Size.Depth()) / 2.0;
+    Check(Tarvex_Window_SetDrawSpace(Id, Size.XMin, Size.XMax, Size.YMin - depthRoom,
+                                     Size.YMax + depthRoom, Lowest - heightRoom,
+                                     Highest + heightRoom),
           "Tarvex_Window_SetDrawSpace");
 }
 
 void SurfaceView::ApplyFurniture()
 {
-    // Bar and frame belong to an element and follow the one that is shown now.
     if (Around.Bar && ShownSurface)
     {
-        Check(Tarvex_Window_ScalarBar_Add(Id, Measured), "Tarvex_Window_ScalarBar_Add");
+        Check(Tarvex_Window_ScalarBar_Add(Id, ShownSurface->Id()), "Tarvex_Window_ScalarBar_Add");
     }
     else
     {
@@ -101,7 +108,9 @@ void SurfaceView::ApplyFurniture()
     }
     if (Around.Frame)
     {
-        Check(Tarvex_Window_Cube_Add_Resize(Id, Measured, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0),
+        // The heights' own box: one taken from the element would follow its colour range.
+        Check(Tarvex_Window_Cube_Add_Resize(Id, TARVEX_NONE, Size.XMin, Size.XMax, Size.YMin,
+                                            Size.YMax, Lowest, Highest),
               "Tarvex_Window_Cube_Add_Resize");
     }
     else
@@ -147,7 +156,7 @@ void SurfaceView::Frame()
     const SceneUpdate update(Id);
     Zoom(1.0);
     Check(Tarvex_Window_Camera_AutoSize(Id), "Tarvex_Window_Camera_AutoSize");
-    Zoom(Nearer);
+    ComeNearer();
 }
 
 void SurfaceView::ShowFrom(int32_t predefinedView)
@@ -156,7 +165,32 @@ void SurfaceView::ShowFrom(int32_t predefinedView)
     Zoom(1.0);
     Check(Tarvex_Window_Camera_SetPredefinedView(Id, predefinedView),
           "Tarvex_Window_Camera_SetPredefinedView");
-    Zoom(Nearer);
+    ComeNearer();
+}
+
+void SurfaceView::ComeNearer()
+{
+    Zoom(Around.Frame ? NearerWithFrame : Nearer);
+    if (!Around.Bar || !ShownSurface)
+    {
+        return;
+    }
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+    Check(Tarvex_Window_Camera_GetPosition(Id, &x, &y, &z), "Tarvex_Window_Camera_GetPosition");
+    double direction[3] = {};
+    double up[3] = {};
+    Check(Tarvex_Window_Camera_GetViewDirection(Id, &direction[0], &direction[1], &direction[2],
+                                                &up[0], &up[1], &up[2]),
+          "Tarvex_Window_Camera_GetViewDirection");
+    // To the right of the camera: direction x up.
+    const double way = RoomForBar * std::hypot(Size.Width(), Size.Depth(), Highest - Lowest);
+    Check(Tarvex_Window_Camera_SetPosition(Id,
+                                           x + way * (direction[1] * up[2] - direction[2] * up[1]),
+                                           y + way * (direction[2] * up[0] - direction[0] * up[2]),
+                                           z + way * (direction[0] * up[1] - direction[1] * up[0])),
+          "Tarvex_Window_Camera_SetPosition");
 }
 
 void SurfaceView::Zoom(double factor)

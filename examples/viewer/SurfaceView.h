@@ -60,14 +60,17 @@ public:
     RgbPicture Picture() const;
 
 private:
-    void SetDrawSpace(const Extent& extent, double low, double high);
+    void SetDrawSpace();
     void LookObliquely();
     void ApplyFurniture();
+    void ComeNearer();
     void Zoom(double factor);
     void Redraw();
 
     int32_t Id = -1;
-    int32_t Measured = -1; // the surface or profile that is shown
+    Extent Size; // of what is shown, with its heights as drawn
+    double Lowest = 0.0;
+    double Highest = 0.0;
     std::optional<SurfaceElement> ShownSurface;
     Furniture Around;
     bool Parallel = false;
