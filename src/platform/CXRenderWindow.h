@@ -18,9 +18,11 @@ public:
     void SetConnection(std::shared_ptr<XConnection> connection);
     const std::shared_ptr<XConnection>& GetConnection() const { return Connection; }
 
-    // Somebody destroyed the native window. The context gets a window of ours instead, so that its
+    // Somebody destroyed the native window. The context gets another one instead, so that its
     // resources can still be freed.
     void MarkLost();
+    // Destroys the native window: a view without one is lost.
+    void Close();
     // The host or the window manager gave the native window another size.
     void TakeNativeSize(int width, int height);
 
@@ -53,6 +55,7 @@ private:
     bool IsUsable() const { return !Lost && WindowId && IsConnected(); }
     // Asks the server, for the calls that are expensive anyway and fatal without a window.
     bool IsStillThere();
+    void Unregister();
     bool CreateNativeWindow();
     bool PlaceInParent();
     void ChooseSampling();
@@ -60,5 +63,6 @@ private:
     std::shared_ptr<XConnection> Connection;
     Window Native = 0; // as WindowId, but ours to destroy
     bool Lost = false;
+    bool Software = false;       // OpenGL is drawn by the processor
     int PictureSize[2] = {0, 0}; // 0, 0 before the first render
 };
