@@ -1,12 +1,12 @@
 #include "elements3d/CElement_Cylinder.h"
 
 #include "Tarvex.h"
+#include "elements3d/ShapeMapper.h"
 #include "frame/NumberTest.h"
 
 #include <vtkCylinderSource.h>
 #include <vtkMath.h>
 #include <vtkMatrix4x4.h>
-#include <vtkPolyDataMapper.h>
 #include <vtkProperty.h>
 #include <vtkRegularPolygonSource.h>
 #include <vtkRenderer.h>
@@ -82,7 +82,7 @@ void CElement_Cylinder::BuildRim(Rim& rim)
     rim.Source = vtkSmartPointer<vtkRegularPolygonSource>::New();
     rim.Source->GeneratePolygonOff();
     rim.Source->SetNumberOfSides(facets);
-    const vtkNew<vtkPolyDataMapper> mapper;
+    const vtkNew<ShapeMapper> mapper;
     mapper->SetInputConnection(rim.Source->GetOutputPort());
     rim.Actor = vtkSmartPointer<vtkActor>::New();
     rim.Actor->SetMapper(mapper);

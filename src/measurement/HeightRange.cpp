@@ -26,7 +26,7 @@ void Clip(const int16_t* heights, size_t count, size_t validCount, double clipPe
     }
 
     const double share = clipPercent / 100.0;
-    const double valid = static_cast<double>(validCount);
+    const auto valid = static_cast<double>(validCount);
     const auto lastAtMost = [&](double end)
     {
         const auto past = std::upper_bound(sums.begin(), sums.end(), static_cast<uint32_t>(end));

@@ -84,15 +84,6 @@ struct SurfaceBox
                           : other.Bounds[2 * axis + 1];
         }
     }
-    void Include(const float* point)
-    {
-        SurfaceBox other;
-        for (size_t axis = 0; axis < 3; ++axis)
-        {
-            other.Bounds[2 * axis] = other.Bounds[2 * axis + 1] = point[axis];
-        }
-        Include(other);
-    }
     // Anything further out, infinite or undefined would ruin the camera that has to frame it.
     bool IsUsable() const
     {

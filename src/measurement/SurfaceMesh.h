@@ -53,9 +53,9 @@ std::shared_ptr<const Value[]> PerPoint(std::shared_ptr<const Value[]> samples, 
     return values;
 }
 
-// The samples that belong to no cell and are to be drawn all the same, in row order. The choice has
-// a gap that pictures rely on: at the right edge a sample is left out if its left neighbour is
-// isolated as well. Throws std::bad_alloc.
+// The samples that belong to no cell and are to be drawn all the same, in row order. Hosts know the
+// gap in the choice: the last sample of a row is left out where the walk along the row has just
+// marked the sample before it. Throws std::bad_alloc.
 std::vector<int32_t> FindIsolatedSamples(const int16_t* heights, const SurfaceGrid& grid);
 
 // Collects strips; the mesh is complete after Finish.
@@ -192,16 +192,18 @@ private:
     static void AddQuad(const float* centre, const std::array<double, 2>& half, float* corner,
                         SurfaceBox& box)
     {
-        for (const double x : {-half[0], half[0]})
+        const float x[2] = {Samples::Shift(centre[0], -half[0]),
+                            Samples::Shift(centre[0], half[0])};
+        const float y[2] = {Samples::Shift(centre[1], -half[1]),
+                            Samples::Shift(centre[1], half[1])};
+        SurfaceBox quad;
+        quad.Bounds = {x[0], x[1], y[0], y[1], centre[2], centre[2]};
+        box.Include(quad);
+        for (size_t i = 0; i < 4; ++i, corner += 3)
         {
-            for (const double y : {-half[1], half[1]})
-            {
-                corner[0] = Samples::Shift(centre[0], x);
-                corner[1] = Samples::Shift(centre[1], y);
-                corner[2] = centre[2];
-                box.Include(corner);
-                corner += 3;
-            }
+            corner[0] = x[i / 2];
+            corner[1] = y[i % 2];
+            corner[2] = centre[2];
         }
     }
 

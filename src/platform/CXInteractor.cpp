@@ -12,15 +12,8 @@ vtkStandardNewMacro(CXInteractor);
 
 namespace
 {
-constexpr long eventMask = ButtonPressMask | ButtonReleaseMask | PointerMotionMask |
-                           EnterWindowMask | LeaveWindowMask | ExposureMask | StructureNotifyMask;
 constexpr Time doubleClickTime = 400; // milliseconds
 } // namespace
-
-CXInteractor::~CXInteractor()
-{
-    X11->Views.erase(Registered);
-}
 
 CXRenderWindow* CXInteractor::GetXWindow() const
 {
@@ -39,18 +32,6 @@ void CXInteractor::Initialize()
     const int* size = window->GetSize();
     SetSize(size[0], size[1]);
     Enable();
-    const auto native = reinterpret_cast<Window>(window->GetGenericWindowId());
-    if (!native)
-    {
-        return;
-    }
-    XErrorTrap trap;
-    Display* input = window->GetConnection()->Input;
-    XSelectInput(input, native, eventMask);
-    // No XSync here: its reply could bring events that nobody then polls for.
-    XFlush(input);
-    X11->Views[native] = this;
-    Registered = native;
 }
 
 void CXInteractor::Render()
@@ -65,17 +46,11 @@ void CXInteractor::Render()
     }
 }
 
-bool CXInteractor::TakeRenderRequest()
+void CXInteractor::RenderIfWanted()
 {
-    return std::exchange(RenderRequested, false);
-}
-
-void CXInteractor::MarkLost()
-{
-    X11->Views.erase(Registered);
-    if (CXRenderWindow* window = GetXWindow())
+    if (std::exchange(RenderRequested, false))
     {
-        window->MarkLost();
+        RenderWindow->Render();
     }
 }
 
@@ -115,7 +90,7 @@ void CXInteractor::HandleEvent(const XEvent& event)
     case ClientMessage:
         if (static_cast<Atom>(event.xclient.data.l[0]) == window->GetConnection()->DeleteWindow)
         {
-            XDestroyWindow(window->GetConnection()->Drawing, event.xclient.window);
+            window->Close();
         }
         break;
     default:
@@ -156,7 +131,10 @@ void CXInteractor::HandleButton(const XButtonEvent& event, bool press)
         return;
     }
     Point(event.x, event.y, event.state, press ? CountPress(event) : 0);
-    InvokeEvent(events[event.button - Button1][press ? 0 : 1]);
+    if (const auto id = events[event.button - Button1][press ? 0 : 1])
+    {
+        InvokeEvent(id);
+    }
 }
 
 void CXInteractor::HandleConfigure(const XConfigureEvent& event)

@@ -23,12 +23,12 @@ public:
     void Render() override;
 
     void HandleEvent(const XEvent& event);
-    void MarkLost();
-    bool TakeRenderRequest();
+    bool WantsRender() const { return RenderRequested; }
+    void RenderIfWanted();
 
 protected:
     CXInteractor() = default;
-    ~CXInteractor() override;
+    ~CXInteractor() override = default;
 
 private:
     CXRenderWindow* GetXWindow() const;
@@ -37,7 +37,6 @@ private:
     void Point(int x, int y, unsigned int modifiers, int repeatCount = 0);
     int CountPress(const XButtonEvent& event);
 
-    Window Registered = 0;
     bool RenderRequested = false;
     std::array<Time, 4> LastPress = {}; // by button
 };

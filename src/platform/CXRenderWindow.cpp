@@ -3,6 +3,8 @@
 #include "platform/CXInteractor.h"
 #include "platform/XState.h"
 
+#include <vtkCallbackCommand.h>
+#include <vtkNew.h>
 #include <vtkObjectFactory.h>
 #include <vtkOpenGLFramebufferObject.h>
 #include <vtkOpenGLState.h>
@@ -13,7 +15,6 @@
 #include <cstring>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 vtkStandardNewMacro(CXRenderWindow);
 
@@ -21,6 +22,9 @@ namespace
 {
 // Above the size of any wall of screens, below what the X server and OpenGL take.
 constexpr int mostPixels = 16384;
+
+constexpr long eventMask = ButtonPressMask | ButtonReleaseMask | PointerMotionMask |
+                           EnterWindowMask | LeaveWindowMask | ExposureMask | StructureNotifyMask;
 
 // Drains the drawing connection: nothing but news of our windows arrives there.
 void ReadNotices(XConnection& connection)
@@ -47,15 +51,15 @@ CXRenderWindow::CXRenderWindow()
 {
     // The stock way copies each picture once more before it is shown.
     SetFrameBlitModeToBlitToCurrent();
+    // Without an observer VTK aborts the process when it cannot have its context.
+    AddObserver(vtkCommand::ExitEvent, vtkNew<vtkCallbackCommand>());
 }
 
 CXRenderWindow::~CXRenderWindow()
 {
     XErrorTrap trap;
-    if (WindowId)
-    {
-        Finalize();
-    }
+    Finalize();
+    Unregister();
     if (IsConnected())
     {
         if (Native)
@@ -96,22 +100,35 @@ bool CXRenderWindow::CreateNativeWindow()
     attributes.background_pixel = 0;
     attributes.border_pixel = 0;
     attributes.colormap = ColorMap;
-    attributes.event_mask = StructureNotifyMask;
+    attributes.event_mask = eventMask;
     attributes.override_redirect = GetBorders() == 0 ? True : False;
-    // A child of the root until the context stands: only we can destroy it in that time.
+    XSync(DisplayId, False); // the other connection names the colour map
+    // By the connection that the event pump reads: a window manager tells a window's creator that
+    // it shall close. A child of the root until the context stands: only we can destroy it so far.
     Native = XCreateWindow(
-        DisplayId, root, Position[0], Position[1], static_cast<unsigned>(std::max(Size[0], 1)),
-        static_cast<unsigned>(std::max(Size[1], 1)), 0, visual->depth, InputOutput, visual->visual,
+        Connection->Input, root, Position[0], Position[1],
+        static_cast<unsigned>(std::max(Size[0], 1)), static_cast<unsigned>(std::max(Size[1], 1)), 0,
+        visual->depth, InputOutput, visual->visual,
         CWBackPixel | CWBorderPixel | CWColormap | CWEventMask | CWOverrideRedirect, &attributes);
     XFree(visual);
-    XSync(DisplayId, False);
+    // This takes waiting events out of the descriptor's sight; those of the window's placing, which
+    // come now, make it readable again.
+    XSync(Connection->Input, False);
     if (trap.Failed() || !IsConnected())
     {
         Native = 0;
         return false;
     }
     WindowId = Native;
+    X11->Views[Native] = this;
+    XSelectInput(DisplayId, Native, StructureNotifyMask);
     return true;
+}
+
+// By value: on another server, a window may have the same number.
+void CXRenderWindow::Unregister()
+{
+    std::erase_if(X11->Views, [this](const auto& entry) { return entry.second == this; });
 }
 
 // Into the host's window and onto the screen; false when the parent is no usable window.
@@ -142,10 +159,9 @@ void CXRenderWindow::ChooseSampling()
     const char* renderer = reinterpret_cast<const char*>(glGetString(GL_RENDERER));
     const std::string_view name = renderer ? renderer : "";
     // Nearly free on hardware, several times the frame on a software rasteriser.
-    const bool software = name.find("llvmpipe") != name.npos ||
-                          name.find("softpipe") != name.npos || name.find("SWR") != name.npos ||
-                          name.find("SVGA3D") != name.npos;
-    if (software)
+    Software = name.find("llvmpipe") != name.npos || name.find("softpipe") != name.npos ||
+               name.find("SWR") != name.npos || name.find("SVGA3D") != name.npos;
+    if (Software)
     {
         SetMultiSamples(0);
     }
@@ -169,12 +185,12 @@ void CXRenderWindow::Initialize()
         return;
     }
     Superclass::Initialize();
-    ChooseSampling();
-    if (!PlaceInParent())
+    if (!IsCurrent() || !PlaceInParent())
     {
-        // The unmapped window stays as the context's drawable.
-        Lost = true;
+        Close();
+        return;
     }
+    ChooseSampling();
 }
 
 void* CXRenderWindow::GetGenericWindowId()
@@ -208,6 +224,7 @@ void CXRenderWindow::MarkLost()
         return;
     }
     Lost = true;
+    Unregister();
     if (!IsConnected() || !WindowId)
     {
         return;
@@ -227,8 +244,16 @@ void CXRenderWindow::MarkLost()
     XFree(visual);
     WindowId = Native;
     XSync(DisplayId, False);
-    SetForceMakeCurrent();
-    MakeCurrent();
+}
+
+void CXRenderWindow::Close()
+{
+    XErrorTrap trap;
+    if (IsConnected())
+    {
+        XDestroyWindow(DisplayId, Native);
+    }
+    MarkLost();
 }
 
 void CXRenderWindow::Start()
@@ -250,10 +275,19 @@ void CXRenderWindow::End()
 
 void CXRenderWindow::Frame()
 {
-    if (IsUsable())
+    if (!IsUsable())
     {
-        Superclass::Frame();
+        return;
     }
+    const bool resized = Size[0] != PictureSize[0] || Size[1] != PictureSize[1];
+    if (Software && resized && PictureSize[0] > 0)
+    {
+        // Mesa looks at the size of the window once after each swap. If that was before the resize,
+        // this picture would appear in the old size and at the wrong place.
+        MakeCurrent();
+        glXSwapBuffers(DisplayId, WindowId);
+    }
+    Superclass::Frame();
 }
 
 bool CXRenderWindow::ReleaseRenders()
@@ -302,18 +336,21 @@ void CXRenderWindow::Render()
 
 void CXRenderWindow::MakeCurrent()
 {
-    if (!IsConnected())
-    {
-        return;
-    }
-    if (!X11->ContextDisplay)
+    if (!std::exchange(X11->ContextNoted, true))
     {
         X11->HostContext = glXGetCurrentContext();
         X11->HostDisplay = glXGetCurrentDisplay();
         X11->HostDrawable = glXGetCurrentDrawable();
-        X11->ContextDisplay = DisplayId;
     }
-    Superclass::MakeCurrent();
+    if (IsConnected())
+    {
+        Superclass::MakeCurrent();
+    }
+    if (!IsCurrent() && glXGetCurrentContext())
+    {
+        // What VTK now says to OpenGL must not reach the context of the host or of another view.
+        glXMakeCurrent(glXGetCurrentDisplay(), None, nullptr);
+    }
 }
 
 void CXRenderWindow::SetSize(int width, int height)
@@ -365,6 +402,7 @@ void CXRenderWindow::SetCurrentCursor(int shape)
     {
         XErrorTrap trap;
         Superclass::SetCurrentCursor(shape);
+        XFlush(DisplayId);
     }
 }
 
@@ -407,6 +445,7 @@ void CXRenderWindow::DestroyWindow()
     if (!IsConnected())
     {
         // Nothing can be said to the server; only the client side is let go.
+        MakeCurrent();
         OwnContext = 0;
         DisplayId = nullptr;
         WindowId = 0;

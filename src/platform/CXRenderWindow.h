@@ -18,9 +18,11 @@ public:
     void SetConnection(std::shared_ptr<XConnection> connection);
     const std::shared_ptr<XConnection>& GetConnection() const { return Connection; }
 
-    // Somebody destroyed the native window. The context gets a window of ours instead, so that its
+    // Somebody destroyed the native window. The context gets another one instead, so that its
     // resources can still be freed.
     void MarkLost();
+    // Destroys the native window: a view without one is lost.
+    void Close();
     // The host or the window manager gave the native window another size.
     void TakeNativeSize(int width, int height);
 
@@ -56,6 +58,7 @@ private:
     bool IsUsable() const { return !Lost && WindowId && IsConnected(); }
     // Asks the server, for the calls that are expensive anyway and fatal without a window.
     bool IsStillThere();
+    void Unregister();
     bool CreateNativeWindow();
     bool PlaceInParent();
     void ChooseSampling();
@@ -65,5 +68,6 @@ private:
     bool Lost = false;
     int Holds = 0;
     bool RenderHeld = false;     // asked for while held
+    bool Software = false;       // OpenGL is drawn by the processor
     int PictureSize[2] = {0, 0}; // 0, 0 before the first render
 };

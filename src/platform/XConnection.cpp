@@ -4,6 +4,9 @@
 
 #include <algorithm>
 
+// Last: its macros break other headers.
+#include <X11/Xlibint.h>
+
 namespace
 {
 XConnection* FindOwner(Display* display)
@@ -21,7 +24,7 @@ int OnError(Display* display, XErrorEvent* event)
         ++X11->ErrorCount;
         return 0;
     }
-    return X11->HostErrorHandler ? X11->HostErrorHandler(display, event) : 0;
+    return X11->HostErrorHandler(display, event);
 }
 
 int OnIOError(Display* display)
@@ -31,11 +34,25 @@ int OnIOError(Display* display)
         owner->MarkBroken();
         return 0;
     }
-    return X11->HostIOErrorHandler ? X11->HostIOErrorHandler(display) : 0;
+    return X11->HostIOErrorHandler(display);
+}
+
+// Nothing is sent any more over a broken connection, and a request that finds no room in the buffer
+// fails loudly or crashes. There is none at all if XCB was writing last.
+void EmptyBuffer(Display* display)
+{
+    constexpr int leastSize = 2048; // of Xlib's buffers
+    display->bufptr = display->buffer;
+    display->bufmax = display->buffer + leastSize;
 }
 
 // Xlib ends the process after an I/O error unless the display has an exit handler that returns.
-void OnIOErrorExit(Display*, void*) {}
+void OnIOErrorExit(Display* display, void*)
+{
+    // Xlib has locked it for this thread: another one would wait for ever.
+    XUnlockDisplay(display);
+    EmptyBuffer(display);
+}
 
 Display* OpenDisplay()
 {
@@ -96,7 +113,7 @@ bool HasUsableOpenGL(Display* display)
 
 std::shared_ptr<XConnection> XConnection::Acquire()
 {
-    if (X11->Connection && !X11->Connection->IsBroken())
+    if (X11->Connection && X11->Connection->IsAlive())
     {
         return X11->Connection;
     }
@@ -130,14 +147,32 @@ bool XConnection::Open()
 XConnection::~XConnection()
 {
     XErrorTrap trap;
+    if (Drawing && glXGetCurrentDisplay() == Drawing)
+    {
+        glXMakeCurrent(Drawing, None, nullptr);
+    }
     for (Display* display : {Input, Drawing})
     {
         if (display)
         {
+            if (Broken)
+            {
+                EmptyBuffer(display);
+            }
             XCloseDisplay(display);
         }
     }
     std::erase(X11->Connections, this);
+}
+
+bool XConnection::IsAlive()
+{
+    XErrorTrap trap;
+    if (!Broken)
+    {
+        XSync(Drawing, False);
+    }
+    return !Broken;
 }
 
 XErrorTrap::XErrorTrap() : Before(X11->ErrorCount)

@@ -21,6 +21,8 @@ public:
     XConnection& operator=(const XConnection&) = delete;
 
     bool IsBroken() const { return Broken; }
+    // Asks the server.
+    bool IsAlive();
     void MarkBroken() { Broken = true; }
     bool Owns(Display* display) const { return display == Drawing || display == Input; }
 

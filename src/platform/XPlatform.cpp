@@ -5,9 +5,10 @@
 #include "platform/CXRenderWindow.h"
 #include "platform/XState.h"
 
+#include <vtkInteractorObserver.h>
 #include <vtkNew.h>
 
-#include <algorithm>
+#include <utility>
 #include <vector>
 
 XState* X11 = nullptr;
@@ -18,22 +19,13 @@ namespace
 // could not be used by a later call on another thread.
 void RestoreContext()
 {
-    Display* ours = std::exchange(X11->ContextDisplay, nullptr);
-    if (!ours)
-    {
-        return;
-    }
     if (X11->HostContext)
     {
         glXMakeCurrent(X11->HostDisplay, X11->HostDrawable, X11->HostContext);
-        return;
     }
-    const bool open = std::any_of(X11->Connections.begin(), X11->Connections.end(),
-                                  [ours](const XConnection* connection)
-                                  { return connection->Owns(ours) && !connection->IsBroken(); });
-    if (open)
+    else if (glXGetCurrentContext())
     {
-        glXMakeCurrent(ours, None, nullptr);
+        glXMakeCurrent(glXGetCurrentDisplay(), None, nullptr);
     }
 }
 
@@ -62,36 +54,61 @@ std::vector<XEvent> TakeEvents(Display* input)
     return events;
 }
 
-vtkSmartPointer<CXInteractor> FindView(Window window)
+// Held while a view handles its event: a callback may delete it.
+struct Target
 {
-    const auto found = X11->Views.find(window);
-    return found == X11->Views.end() ? nullptr : found->second;
-}
+    explicit Target(Window native)
+    {
+        const auto found = X11->Views.find(native);
+        if (found != X11->Views.end())
+        {
+            RenderWindow = found->second;
+            Interactor = CXInteractor::SafeDownCast(RenderWindow->GetInteractor());
+            Style = Interactor ? Interactor->GetInteractorStyle() : nullptr;
+        }
+    }
+
+    vtkSmartPointer<vtkInteractorObserver> Style;
+    vtkSmartPointer<CXInteractor> Interactor;
+    vtkSmartPointer<CXRenderWindow> RenderWindow;
+};
 
 void Dispatch(const XEvent& event)
 {
-    // Held: a callback may delete the view while its event is being handled.
-    vtkSmartPointer<CXInteractor> view = FindView(event.xany.window);
-    if (!view)
+    const Target target(event.xany.window);
+    if (!target.Interactor)
     {
         return;
     }
-    vtkSmartPointer<vtkRenderWindow> window = view->GetRenderWindow();
     struct Flag
     {
         Flag() { X11->Dispatching = true; }
         ~Flag() { X11->Dispatching = false; }
     } dispatching;
-    view->HandleEvent(event);
+    target.Interactor->HandleEvent(event);
 }
 
-void RenderView(Window window)
+void RenderView(Window native)
 {
-    vtkSmartPointer<CXInteractor> view = FindView(window);
-    if (view && view->TakeRenderRequest())
+    const Target target(native);
+    if (target.Interactor)
     {
-        view->GetRenderWindow()->Render();
+        target.Interactor->RenderIfWanted();
     }
+}
+
+std::vector<Window> FindRenderRequests()
+{
+    std::vector<Window> windows;
+    for (const auto& [native, window] : X11->Views)
+    {
+        const auto* interactor = CXInteractor::SafeDownCast(window->GetInteractor());
+        if (interactor && interactor->WantsRender())
+        {
+            windows.push_back(native);
+        }
+    }
+    return windows;
 }
 } // namespace
 
@@ -112,10 +129,14 @@ CallScope::~CallScope()
         --X11->CallDepth;
         return;
     }
-    RestoreContext();
-    if (X11->Connection && !X11->Connection->IsBroken())
+    // Only drawing leaves something behind; a call that does not draw shall cost next to nothing.
+    if (std::exchange(X11->ContextNoted, false))
     {
-        XFlush(X11->Connection->Drawing);
+        RestoreContext();
+        if (X11->Connection && !X11->Connection->IsBroken())
+        {
+            XFlush(X11->Connection->Drawing);
+        }
     }
     X11->CallTrap.reset();
     --X11->CallDepth;
@@ -163,30 +184,22 @@ bool PumpEvents(const EventStep& step)
 {
     std::vector<XEvent> events;
     bool nested = false;
-    bool connected = true;
     step(
         [&]
         {
             nested = X11->Dispatching;
-            // Held: the events must not outlive a connection that a callback replaces.
-            const std::shared_ptr<XConnection> connection = X11->Connection;
-            if (nested || !connection)
+            if (nested || !X11->Connection || X11->Connection->IsBroken())
             {
                 return;
             }
-            if (!connection->IsBroken())
-            {
-                events = TakeEvents(connection->Input);
-            }
-            connected = !connection->IsBroken();
+            events = TakeEvents(X11->Connection->Input);
             // First of all: no handler may touch a view whose window is gone.
             for (const XEvent& event : events)
             {
-                if (vtkSmartPointer<CXInteractor> view = event.type == DestroyNotify
-                                                             ? FindView(event.xdestroywindow.window)
-                                                             : nullptr)
+                const auto view = X11->Views.find(event.xany.window);
+                if (event.type == DestroyNotify && view != X11->Views.end())
                 {
-                    view->MarkLost();
+                    view->second->MarkLost();
                 }
             }
         });
@@ -199,18 +212,14 @@ bool PumpEvents(const EventStep& step)
     {
         step([&event] { Dispatch(event); });
     }
-    std::vector<Window> windows;
-    for (const XEvent& event : events)
+    std::vector<Window> requests;
+    step([&requests] { requests = FindRenderRequests(); });
+    for (const Window native : requests)
     {
-        if (std::find(windows.begin(), windows.end(), event.xany.window) == windows.end())
-        {
-            windows.push_back(event.xany.window);
-        }
+        step([native] { RenderView(native); });
     }
-    for (const Window window : windows)
-    {
-        step([window] { RenderView(window); });
-    }
+    bool connected = true;
+    step([&connected] { connected = !X11->Connection || !X11->Connection->IsBroken(); });
     return connected;
 }
 } // namespace Platform

@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-class CXInteractor;
+class CXRenderWindow;
 
 struct XState
 {
@@ -24,15 +24,15 @@ struct XState
     XErrorHandler HostErrorHandler = nullptr;
     XIOErrorHandler HostIOErrorHandler = nullptr;
 
-    // The views by their native window: whom an event is for.
-    std::map<Window, CXInteractor*> Views;
+    // The views by their native window: whom an event is for. Not those that are lost.
+    std::map<Window, CXRenderWindow*> Views;
     bool Dispatching = false;
 
     // The call under way.
     int CallDepth = 0;
     std::optional<XErrorTrap> CallTrap;
     // Which OpenGL context the host had current when the call first needed one of ours.
-    Display* ContextDisplay = nullptr; // ours; null while no context of ours was used
+    bool ContextNoted = false;
     Display* HostDisplay = nullptr;
     GLXDrawable HostDrawable = 0;
     GLXContext HostContext = nullptr;

@@ -19,7 +19,11 @@ TestHost::TestHost(int width, int height)
                                  static_cast<unsigned>(width), static_cast<unsigned>(height), 0, 0,
                                  0x404040);
     XMapWindow(Connection, Native);
-    XSync(Connection, False);
+    // An earlier test that broke off may have left a button pressed.
+    for (const unsigned button : {1U, 2U, 3U})
+    {
+        Release(button);
+    }
 }
 
 TestHost::~TestHost()

@@ -1,0 +1,174 @@
+// What mouse and keyboard do to the views they are meant for.
+#include <gtest/gtest.h>
+
+#include "TarvexExt.h"
+#include "platform/Inside.h"
+#include "support/Picture.h"
+#include "support/TestHost.h"
+#include "support/TestView.h"
+
+#include <X11/Xlib.h>
+
+#include <array>
+#include <cmath>
+#include <vtkMath.h>
+
+namespace
+{
+using Vector = std::array<double, 3>;
+
+class Camera
+{
+public:
+    explicit Camera(int32_t windowId)
+    {
+        Vector up;
+        Tarvex_Window_Camera_GetPosition(windowId, &Position[0], &Position[1], &Position[2]);
+        Tarvex_Window_Camera_GetViewDirection(windowId, &Direction[0], &Direction[1], &Direction[2],
+                                              &up[0], &up[1], &up[2]);
+    }
+
+    // What kind of motion leads from here to `now`.
+    const char* MotionTo(const Camera& now) const
+    {
+        Vector step;
+        vtkMath::Subtract(now.Position, Position, step);
+        if (vtkMath::Dot(Direction, now.Direction) < 0.9999)
+        {
+            return "turn";
+        }
+        if (vtkMath::Norm(step.data()) < 1e-6)
+        {
+            return "none";
+        }
+        const double along = std::abs(vtkMath::Dot(step, Direction));
+        return along > 0.99 * vtkMath::Norm(step.data()) ? "zoom" : "pan";
+    }
+
+private:
+    Vector Position;
+    Vector Direction;
+};
+
+class Mouse : public testing::Test
+{
+protected:
+    Mouse() { Settle(); }
+
+    const char* MotionByDrag(unsigned button)
+    {
+        const Camera before(View.Id);
+        Host.Drag(Native, button, 40, 40, 110, 90);
+        return before.MotionTo(Camera(View.Id));
+    }
+    const char* MotionByWheel(unsigned button)
+    {
+        const Camera before(View.Id);
+        Host.MoveMouse(Native, 40, 40);
+        Host.Press(button);
+        Host.Release(button);
+        Settle();
+        return before.MotionTo(Camera(View.Id));
+    }
+
+    TestHost Host;
+    TestView View{Host.Handle(), 10, 10};
+    const NativeWindow Native = NativeOf(View.Id);
+};
+} // namespace
+
+TEST_F(Mouse, TurnsPansAndZoomsTheCamera)
+{
+    EXPECT_STREQ(MotionByDrag(1), "turn");
+    EXPECT_STREQ(MotionByDrag(2), "pan");
+    EXPECT_STREQ(MotionByDrag(3), "zoom");
+    EXPECT_STREQ(MotionByWheel(4), "zoom");
+    EXPECT_STREQ(MotionByWheel(5), "zoom");
+    Host.PressKey("Shift_L");
+    EXPECT_STREQ(MotionByDrag(3), "zoom");
+    Host.ReleaseKey("Shift_L");
+}
+
+TEST_F(Mouse, DoesOnlyWhatIsSwitchedOn)
+{
+    EXPECT_EQ(Tarvex_Window_EnableMouseInteraction(View.Id, 0, 1, 1), STATUS_OK);
+    EXPECT_STREQ(MotionByDrag(1), "none");
+    EXPECT_STREQ(MotionByDrag(2), "pan");
+    EXPECT_EQ(Tarvex_Window_EnableMouseInteraction(View.Id, 1, 0, 0), STATUS_OK);
+    EXPECT_STREQ(MotionByDrag(1), "turn");
+    EXPECT_STREQ(MotionByDrag(2), "none");
+    EXPECT_STREQ(MotionByDrag(3), "none");
+    EXPECT_STREQ(MotionByWheel(4), "none");
+    EXPECT_STREQ(MotionByWheel(5), "none");
+    EXPECT_EQ(Tarvex_Window_EnableInteraction(View.Id, 0), STATUS_OK);
+    EXPECT_STREQ(MotionByDrag(1), "none");
+    EXPECT_EQ(Tarvex_Window_EnableInteraction(View.Id, 1), STATUS_OK);
+    EXPECT_STREQ(MotionByDrag(1), "turn");
+}
+
+TEST_F(Mouse, ReachesOnlyTheViewUnderIt)
+{
+    TestView other(Host.Handle(), 300, 200);
+    Settle();
+    const Camera untouched(other.Id);
+    const Picture picture = TakePicture(other.Id);
+    EXPECT_STREQ(MotionByDrag(1), "turn");
+    EXPECT_STREQ(untouched.MotionTo(Camera(other.Id)), "none");
+    EXPECT_EQ(TakePicture(other.Id).CountDifferences(picture), 0);
+    const Camera before(View.Id);
+    Host.Drag(NativeOf(other.Id), 1, 40, 40, 110, 90);
+    EXPECT_STREQ(untouched.MotionTo(Camera(other.Id)), "turn");
+    EXPECT_STREQ(before.MotionTo(Camera(View.Id)), "none");
+}
+
+TEST_F(Mouse, CountsADoubleClickPerView)
+{
+    TestView other(Host.Handle(), 300, 200);
+    Settle();
+    std::vector<int> repeats;
+    std::vector<std::unique_ptr<Observer>> observers;
+    for (const int32_t id : {View.Id, other.Id})
+    {
+        Inside(id,
+               [&](CWindow& view)
+               {
+                   vtkRenderWindowInteractor* interactor = view.GetInteractor();
+                   observers.push_back(std::make_unique<Observer>(
+                       interactor, vtkCommand::LeftButtonPressEvent,
+                       [&repeats, interactor]
+                       { repeats.push_back(interactor->GetRepeatCount()); }));
+               });
+    }
+    const NativeWindow targets[] = {Native, Native, Native, NativeOf(other.Id)};
+    for (const NativeWindow target : targets)
+    {
+        Host.MoveMouse(target, 50, 50);
+        Host.Press(1);
+        Host.Release(1);
+    }
+    Settle();
+    EXPECT_EQ(repeats, (std::vector<int>{0, 1, 0, 0}));
+}
+
+TEST_F(Mouse, LeavesKeysToTheHost)
+{
+    XSelectInput(Host.Connection, Host.Native, KeyPressMask);
+    XSetInputFocus(Host.Connection, Host.Native, RevertToParent, CurrentTime);
+    Host.MoveMouse(Native, 50, 50);
+    Settle();
+    const Picture before = TakePicture(View.Id);
+    const char* const keys[] = {"q", "e", "w", "s", "r", "3", "p", "f", "Escape"};
+    int seen = 0;
+    for (const char* key : keys)
+    {
+        Host.PressKey(key);
+        Host.ReleaseKey(key);
+        Settle();
+        XEvent event;
+        seen += XCheckMaskEvent(Host.Connection, KeyPressMask, &event) ? 1 : 0;
+    }
+    EXPECT_EQ(seen, static_cast<int>(std::size(keys)));
+    EXPECT_EQ(View.Render(), STATUS_OK);
+    EXPECT_EQ(TakePicture(View.Id).CountDifferences(before), 0);
+    EXPECT_STREQ(MotionByDrag(1), "turn");
+}

@@ -1,0 +1,162 @@
+// Window events: when there are some, and that each is handled once.
+#include <gtest/gtest.h>
+
+#include "TarvexExt.h"
+#include "platform/Inside.h"
+#include "support/Picture.h"
+#include "support/TestHost.h"
+#include "support/TestView.h"
+
+#include <X11/Xlib.h>
+
+#include <chrono>
+#include <poll.h>
+#include <thread>
+
+namespace
+{
+class Pump : public testing::Test
+{
+protected:
+    Pump() { Settle(); }
+
+    static bool IsReadable(int milliseconds)
+    {
+        int32_t descriptor = -1;
+        EXPECT_EQ(TarvexExt_GetEventDescriptor(&descriptor), STATUS_OK);
+        pollfd waiting = {descriptor, POLLIN, 0};
+        return poll(&waiting, 1, milliseconds) == 1;
+    }
+    // All that was sent has reached the library's connection after this.
+    static void WaitForArrival() { std::this_thread::sleep_for(std::chrono::milliseconds(50)); }
+
+    TestHost Host;
+    TestView View{Host.Handle(), 20, 20};
+    const NativeWindow Native = NativeOf(View.Id);
+};
+} // namespace
+
+TEST_F(Pump, DescriptorIsReadableExactlyWhileEventsWait)
+{
+    EXPECT_FALSE(IsReadable(50));
+    Host.MoveMouse(Native, 50, 60);
+    EXPECT_TRUE(IsReadable(2000));
+    WaitForArrival();
+    EXPECT_EQ(TarvexExt_ProcessEvents(), STATUS_OK);
+    EXPECT_FALSE(IsReadable(50));
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(TarvexExt_ProcessEvents(), STATUS_OK);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100));
+}
+
+TEST_F(Pump, DescriptorStaysReadableThroughTheCreationOfAnotherView)
+{
+    for (void* parent : {Host.Handle(), reinterpret_cast<void*>(0xdeadbeefUL)})
+    {
+        Settle();
+        Host.MoveMouse(Native, 50, parent == Host.Handle() ? 60 : 61);
+        ASSERT_TRUE(IsReadable(2000));
+        TestView other(parent);
+        EXPECT_TRUE(IsReadable(1000));
+    }
+}
+
+TEST_F(Pump, HundredQueuedMotionsCauseOneRender)
+{
+    Host.MoveMouse(Native, 20, 20);
+    Host.Press(1);
+    Settle();
+    RenderCounter renders(View.Id);
+    for (int step = 0; step < 100; ++step)
+    {
+        Host.MoveMouse(Native, 21 + step, 20 + step % 7);
+    }
+    WaitForArrival();
+    EXPECT_EQ(TarvexExt_ProcessEvents(), STATUS_OK);
+    EXPECT_EQ(renders.Count, 1);
+    Host.Release(1);
+    Settle();
+}
+
+TEST_F(Pump, RepaintsWhatWasCovered)
+{
+    View.Render();
+    const Picture before = Host.TakeScreen(Native);
+    ASSERT_GT(before.Count(IsRed), 500);
+    const Window cover =
+        XCreateSimpleWindow(Host.Connection, Host.Native, 0, 0, 150, 400, 0, 0, 0xffffff);
+    XMapRaised(Host.Connection, cover);
+    XSync(Host.Connection, False);
+    Settle();
+    XDestroyWindow(Host.Connection, cover);
+    XSync(Host.Connection, False);
+    ASSERT_GT(Host.TakeScreen(Native).CountDifferences(before), 100);
+    RenderCounter renders(View.Id);
+    EXPECT_TRUE(SettleUntil([&] { return renders.Count > 0; }));
+    EXPECT_EQ(Host.TakeScreen(Native).CountDifferences(before), 0);
+}
+
+TEST_F(Pump, RepaintsAfterUpdateSizeAndAfterAResizeByTheHost)
+{
+    EXPECT_EQ(Tarvex_Window_UpdateSize(View.Id, 5, 6, 320, 240), STATUS_OK);
+    Settle();
+    Picture screen = Host.TakeScreen(Native);
+    EXPECT_EQ(screen.Width, 320);
+    EXPECT_EQ(screen.Height, 240);
+    EXPECT_GT(screen.Count(IsRed), 500);
+    EXPECT_EQ(TakePicture(View.Id).CountDifferences(screen), 0);
+
+    XResizeWindow(Host.Connection, Native, 130, 110);
+    XSync(Host.Connection, False);
+    Settle();
+    screen = Host.TakeScreen(Native);
+    EXPECT_EQ(screen.Width, 130);
+    EXPECT_EQ(TakePicture(View.Id).CountDifferences(screen), 0);
+    EXPECT_GT(screen.Count(IsRed), 300);
+}
+
+TEST_F(Pump, DoesNothingWhenCalledOutOfAnEvent)
+{
+    int calls = 0;
+    std::unique_ptr<Observer> nested;
+    Inside(View.Id,
+           [&](CWindow& view)
+           {
+               nested =
+                   std::make_unique<Observer>(view.GetInteractor(), vtkCommand::AnyEvent,
+                                              [&]
+                                              {
+                                                  ++calls;
+                                                  EXPECT_EQ(TarvexExt_ProcessEvents(), STATUS_OK);
+                                              });
+           });
+    Host.MoveMouse(Native, 30, 30);
+    Host.Press(4);
+    Host.Release(4);
+    RenderCounter renders(View.Id);
+    EXPECT_TRUE(SettleUntil([&] { return renders.Count > 0; }));
+    Settle();
+    EXPECT_GE(calls, 3); // enter, motion, wheel
+}
+
+TEST_F(Pump, SurvivesThatAnEventDeletesItsView)
+{
+    std::unique_ptr<Observer> deleting;
+    Inside(View.Id,
+           [&](CWindow& view)
+           {
+               // In the midst of the style's own handler.
+               deleting = std::make_unique<Observer>(view.GetInteractor()->GetInteractorStyle(),
+                                                     vtkCommand::StartInteractionEvent,
+                                                     [&] { EXPECT_EQ(View.Delete(), STATUS_OK); });
+           });
+    TestView other(Host.Handle(), 300, 200);
+    Settle();
+    Host.MoveMouse(Native, 30, 30);
+    Host.Press(1);
+    EXPECT_TRUE(SettleUntil([&] { return View.Id == -1; }));
+    Host.Release(1);
+    Settle();
+    EXPECT_EQ(Host.Children().size(), 1U);
+    EXPECT_EQ(other.Render(), STATUS_OK);
+}

@@ -1,0 +1,163 @@
+// An X server that dies under live views. Each case is a process of its own: what counts is also
+// how it ends.
+#include <gtest/gtest.h>
+
+#include "TarvexExt.h"
+#include "support/Picture.h"
+#include "support/Process.h"
+#include "support/TestHost.h"
+#include "support/TestView.h"
+
+// After the others, whose names Xlib's macros would break.
+#include "platform/HostContext.h"
+
+#include <X11/Xlib.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <memory>
+#include <random>
+#include <thread>
+
+namespace
+{
+void WorksHere()
+{
+    TestHost host;
+    TestView view(host.Handle());
+    EXPECT_EQ(view.Render(), STATUS_OK);
+    EXPECT_EQ(TarvexExt_ProcessEvents(), STATUS_OK);
+    EXPECT_GT(TakePicture(view.Id).Count(IsRed), 500);
+    EXPECT_EQ(view.Delete(), STATUS_OK);
+}
+
+// The server of a case, a host on it, and a view.
+struct Doomed
+{
+    Doomed()
+    {
+        // The host's own connection dies as well. A host that wants to live has both of these.
+        XSetIOErrorHandler([](Display*) { return 0; });
+        XSetIOErrorExitHandler(
+            Host.Connection, [](Display*, void*) {}, nullptr);
+        View.AddSurface();
+    }
+
+    TestServer Server;
+    TestHost Host;
+    TestView View{Host.Handle()};
+};
+
+} // namespace
+
+TEST(ServerLoss, EndsNoProcess)
+{
+    RunInProcesses("ServerLossProcess");
+}
+
+TEST(ServerLossProcess, DISABLED_AnswersNoNativeWindowAndALivingServerServesNewViews)
+{
+    {
+        Doomed doomed;
+        TestView second(doomed.Host.Handle());
+        TestView third(nullptr);
+        EXPECT_EQ(doomed.View.Render(), STATUS_OK);
+        doomed.Server.Kill();
+        EXPECT_EQ(TarvexExt_ProcessEvents(), STATUS_NO_NATIVE_WINDOW);
+        for (TestView* view : {&doomed.View, &second})
+        {
+            EXPECT_EQ(view->Guard(), STATUS_NO_NATIVE_WINDOW);
+            EXPECT_EQ(view->Render(), STATUS_NO_NATIVE_WINDOW);
+            EXPECT_EQ(Tarvex_Window_UpdateSize(view->Id, 0, 0, 50, 50), STATUS_NO_NATIVE_WINDOW);
+            EXPECT_EQ(view->Delete(), STATUS_OK);
+        }
+        TestView late(doomed.Host.Handle());
+        EXPECT_EQ(late.Created, STATUS_OK);
+        EXPECT_EQ(late.Guard(), STATUS_NO_NATIVE_WINDOW);
+        int32_t descriptor = 0;
+        EXPECT_EQ(TarvexExt_GetEventDescriptor(&descriptor), STATUS_NO_NATIVE_WINDOW);
+        EXPECT_EQ(descriptor, -1);
+        third.Forget();
+    }
+    WorksHere();
+    EXPECT_EQ(Tarvex_Window_DeleteAll(), STATUS_OK);
+}
+
+TEST(ServerLossProcess, DISABLED_LeavesOldViewsDeletableBesideNewOnes)
+{
+    auto doomed = std::make_unique<Doomed>();
+    doomed->Server.Kill();
+    setenv("DISPLAY", doomed->Server.DisplayBefore.c_str(), 1);
+    TestHost host;
+    TestView view(host.Handle());
+    EXPECT_EQ(doomed->View.Guard(), STATUS_NO_NATIVE_WINDOW);
+    EXPECT_EQ(view.Render(), STATUS_OK);
+    doomed.reset();
+    EXPECT_EQ(view.Render(), STATUS_OK);
+    // Both servers gave their windows the same numbers.
+    host.Destroy();
+    EXPECT_EQ(view.Guard(), STATUS_NO_NATIVE_WINDOW);
+    WorksHere();
+}
+
+TEST(ServerLossProcess, DISABLED_EndsTheProcessNormallyWithLiveViews)
+{
+    Doomed doomed;
+    doomed.Server.Kill();
+    doomed.View.Forget();
+}
+
+TEST(ServerLossProcess, DISABLED_FoundOnAnotherThreadBlocksNobody)
+{
+    Doomed doomed;
+    doomed.Server.Kill();
+    std::thread([&] { EXPECT_EQ(doomed.View.Guard(), STATUS_NO_NATIVE_WINDOW); }).join();
+    EXPECT_EQ(TarvexExt_ProcessEvents(), STATUS_NO_NATIVE_WINDOW);
+    EXPECT_EQ(doomed.View.Delete(), STATUS_OK);
+}
+
+TEST(ServerLossProcess, DISABLED_LeavesTheHostsOpenGLContextAlone)
+{
+    TestHost living;
+    const HostContext context(living);
+    ASSERT_TRUE(context.IsUntouched());
+    {
+        Doomed doomed;
+        TestView second(doomed.Host.Handle());
+        EXPECT_TRUE(context.IsUntouched());
+        doomed.Server.Kill();
+        EXPECT_EQ(doomed.View.Render(), STATUS_NO_NATIVE_WINDOW);
+        EXPECT_EQ(doomed.View.Delete(), STATUS_OK);
+        EXPECT_TRUE(context.IsUntouched());
+    }
+    WorksHere();
+    EXPECT_TRUE(context.IsUntouched());
+}
+
+TEST(ServerLossProcess, DISABLED_AtAnyMomentOfAnyCallIsSurvived)
+{
+    std::minstd_rand random(3); // NOLINT: the same moments in each run
+    testing::internal::CaptureStderr();
+    for (int round = 0; round < 15; ++round)
+    {
+        Doomed doomed;
+        const auto moment = std::chrono::microseconds(random() % 150000);
+        std::thread killer(
+            [&]
+            {
+                std::this_thread::sleep_for(moment);
+                doomed.Server.Kill();
+            });
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        do
+        {
+            TestView brief(nullptr);
+            Tarvex_Window_UpdateSize(doomed.View.Id, -1, -1, 100 + round, 100);
+            TarvexExt_ProcessEvents();
+        } while (doomed.View.Render() == STATUS_OK && std::chrono::steady_clock::now() < end);
+        EXPECT_EQ(doomed.View.Guard(), STATUS_NO_NATIVE_WINDOW);
+        killer.join();
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    WorksHere();
+}

@@ -1,0 +1,38 @@
+// The test program as a process: what it holds, and parts of tests that need a process of their
+// own.
+#pragma once
+
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+// What followed GoogleTest's flags on the command line, first the program.
+extern std::vector<std::string> testArguments;
+
+int CountDescriptors();
+long ResidentKilobytes();
+
+// Starts a program; standard output and error stay those of this process.
+pid_t StartProgram(const std::vector<std::string>& command);
+// How the process ended, "exit 0" or for example "signal 11"; it is killed after `seconds`.
+std::string WaitForEnd(pid_t process, int seconds);
+
+// Runs each test of a suite, named DISABLED_ so that nobody else does, in a fresh process of this
+// program up to its normal end, static destructors and all. Fails unless all end with exit 0.
+void RunInProcesses(const std::string& suite, int seconds = 120);
+
+// An X server of the test's own, which becomes $DISPLAY until the end.
+class TestServer
+{
+public:
+    explicit TestServer(const std::vector<std::string>& options = {});
+    ~TestServer();
+    TestServer(const TestServer&) = delete;
+    TestServer& operator=(const TestServer&) = delete;
+
+    void Kill();
+
+    const std::string DisplayBefore;
+    std::string Display;
+    pid_t Server = -1;
+};
