@@ -3,8 +3,8 @@
 #
 #   ./demo.sh                     the laser scan in a window; without a display: pictures
 #   ./demo.sh FILE [OPTION..]     another file, with options of the viewer
-#   ./demo.sh --pictures [FILE..] pictures in demo-pictures/ and no window: of four measurements
-#                                 or of the given file, with options of the viewer
+#   ./demo.sh --pictures [FILE..] pictures in demo-pictures/ and no window: of all kinds of
+#                                 measurements, or of the given file with options of the viewer
 set -euo pipefail
 
 force_pictures=no
@@ -28,6 +28,10 @@ readonly viewer=build-release/examples/tarvex_viewer
 readonly pictures=demo-pictures
 # One count of the laser scan is 0.1 mm in all three directions.
 readonly laser_scan=("$data/cylinder1.png" --x-scale 0.1 --y-scale 0.1 --z-scale 0.1 --unit mm)
+# In decimetres, in which the handles on geometric elements have a handy size.
+readonly laser_scan_dm=("$data/cylinder1.png" --x-scale 0.001 --y-scale 0.001 --z-scale 0.001 --unit dm)
+# What stands around a measurement: scale frame, bar of the colours, orientation marker.
+readonly furniture=(--frame --bar --marker)
 # What the viewer answers when it has no display to open a window on.
 readonly no_display=2
 
@@ -43,10 +47,16 @@ save_pictures() { # [FILE [OPTION..]]
     save "$(basename -- "$1")" "$@"
     return
   fi
-  save laser-scan "${laser_scan[@]}"
-  save elevation-tile "$data/N42E001.hgt"
-  save confocal "$data/confocal_land.i16"
-  save interferometer "$data/wli_height.i16" --intensity "$data/wli_intensity8.pgm"
+  save laser-scan "${laser_scan[@]}" "${furniture[@]}"
+  save elevation-tile "$data/N42E001.hgt" "${furniture[@]}"
+  save confocal "$data/confocal_land.i16" "${furniture[@]}"
+  save interferometer-heights "$data/wli_height.i16" --range 1% "${furniture[@]}"
+  save interferometer-intensity "$data/wli_height.i16" --intensity "$data/wli_intensity8.pgm" \
+    "${furniture[@]}"
+  # Without the few outliers, which would take most of the colours.
+  save weld-beads "$data/clad_nonuniform_x.i16" --trim 0.05 --profiles 12 "${furniture[@]}"
+  save stylus-profile "$data/stylus_profile.i16" "${furniture[@]}"
+  save geometry "${laser_scan_dm[@]}" --scene geometry --palette 5 "${furniture[@]}"
 }
 
 scripts/install-packages.sh
@@ -64,7 +74,7 @@ else
   if [[ $# -gt 0 ]]; then
     "$viewer" --print "$@" || status=$?
   else
-    "$viewer" --print "${laser_scan[@]}" || status=$?
+    "$viewer" --print "${laser_scan[@]}" "${furniture[@]}" || status=$?
   fi
   [[ $status -eq $no_display ]] || exit "$status"
   echo "The display can't be used: pictures are saved instead of opening a window."

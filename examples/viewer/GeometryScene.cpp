@@ -156,7 +156,7 @@ public:
         constexpr double Middle = 0.363;
         constexpr double Radius = 0.040;
         constexpr double RoundStart = 0.218;
-        constexpr int32_t Steps = 8;
+        constexpr int32_t Steps = 4;
         x = {X({Middle + Radius, 0.0}), X({Middle - Radius, 0.0})};
         y = {Y({Middle, 0.0}), Y({Middle, 0.0})};
         for (int32_t i = 0; i <= Steps; ++i)

@@ -1,6 +1,7 @@
 // Reading measured files: what the formats mean, and that damaged files are refused with a reason.
 
 #include "HeightMap.h"
+#include "Features.h"
 #include "Intensity.h"
 #include "PngFile.h"
 
@@ -98,14 +99,52 @@ TEST_F(Files, RawGridsThatDoNotFitTheirSidecarAreRefused)
     EXPECT_TRUE(Mentions(Refusal(grid), "'rows'"));
     Write("grid.txt", "columns two\nrows 2\nxscale 1\nyscale 1\nzscale 1\n");
     EXPECT_TRUE(Mentions(Refusal(grid), "'columns'"));
-    Write("grid.txt", "columns 4\nrows 1\nxscale 1\nyscale 1\nzscale 1\n");
-    EXPECT_TRUE(Mentions(Refusal(grid), "4 x 1"));
+    Write("grid.txt", "columns 1\nrows 4\nxscale 1\nyscale 1\nzscale 1\n");
+    EXPECT_TRUE(Mentions(Refusal(grid), "1 x 4"));
     Write("grid.txt", "columns 2\nrows 2\nxscale 0\nyscale 1\nzscale 1\n");
     EXPECT_TRUE(Mentions(Refusal(grid), "above zero"));
     Write("grid.txt", "type float32\ncolumns 2\nrows 2\nxscale 1\nyscale 1\nzscale 1\n");
     EXPECT_TRUE(Mentions(Refusal(grid), "int16"));
     Write("grid.txt", "columns 70000\nrows 70000\nxscale 1\nyscale 1\nzscale 1\n");
     EXPECT_TRUE(Mentions(Refusal(grid), "asks for 9800000000"));
+}
+
+TEST_F(Files, OneRowIsAProfile)
+{
+    Write("line.txt", "columns 3\nrows 1\nxscale 2 um\nyscale 1 um\nzscale 1 nm\n");
+    const HeightMap map = LoadHeightMap(Write("line.i16", std::string("\1\0\2\0\3\0", 6)), {});
+    EXPECT_TRUE(map.IsProfile());
+    EXPECT_DOUBLE_EQ(map.X(2), 4.0);
+    EXPECT_DOUBLE_EQ(map.Height(map.Samples[2]), 0.003);
+}
+
+TEST_F(Files, EachCoordinateOfFreePositionsHasItsOwnScaleAndOffset)
+{
+    const std::string common = "columns 2\nrows 2\nxscale 7 mm\nyscale 7 mm\n";
+    Write("free_x.txt", common + "zscale 500 um\nzoffset 0.1 m\n");
+    Write("free_y.txt", common + "zscale 2 mm\nzoffset 20 mm\n");
+    Write("free_z.txt", common + "zscale 3 mm\nzoffset 30 mm\ninvalid 0\n");
+    const fs::path path = Write("free_x.i16", std::string("\1\0\2\0\x00\x80\4\0", 8));
+    Write("free_y.i16", std::string("\1\0\1\0\2\0\2\0", 8));
+    Write("free_z.i16", std::string("\1\0\0\0\3\0\4\0", 8));
+    HeightMap map = LoadHeightMap(path, {});
+    ASSERT_TRUE(map.HasFreePositions());
+    EXPECT_DOUBLE_EQ(map.X(0), 100.5);
+    EXPECT_DOUBLE_EQ(map.Y(3), 24.0);
+    EXPECT_DOUBLE_EQ(map.Height(map.Samples[3]), 42.0);
+    EXPECT_EQ(map.Samples, (std::vector<int16_t>{1, HeightMap::Missing, HeightMap::Missing, 4}))
+        << "missing where z is, and where a position is";
+    const Extent extent = DescribeExtent(map);
+    EXPECT_DOUBLE_EQ(extent.Width(), 1.5) << "the valid samples count";
+    ChooseUnit(map);
+    EXPECT_EQ(map.Unit, "um");
+    EXPECT_NEAR(map.X(0), 100500.0, 1e-6) << "positions go along with the unit";
+
+    Write("free_y.i16", std::string(12, '\1'));
+    Write("free_y.txt", "columns 2\nrows 3\nxscale 1\nyscale 1\nzscale 1\n");
+    EXPECT_TRUE(Mentions(Refusal(path), "same size"));
+    fs::remove(Folder / "free_y.i16");
+    EXPECT_TRUE(Mentions(Refusal(path), "free_y.i16"));
 }
 
 TEST_F(Files, ASurfaceWithoutAValidSampleIsRefused)
@@ -191,6 +230,31 @@ TEST_F(Files, TheShippedSurfacesAreWhatTheirSourcesSay)
     HeightMap confocal = LoadHeightMap(Shipped / "confocal_land.i16", {});
     EXPECT_EQ(DescribeHeights(confocal).MissingSamples, 25292U);
     EXPECT_THROW(LoadIntensity(Shipped / "wli_intensity8.pgm", confocal), std::runtime_error);
+
+    const HeightMap beads = LoadHeightMap(Shipped / "clad_nonuniform_x.i16", {});
+    EXPECT_EQ(DescribeHeights(beads).MissingSamples, 8455U);
+    const Extent extent = DescribeExtent(beads);
+    EXPECT_NEAR(extent.XMin, 56.25, 0.5);
+    EXPECT_NEAR(extent.YMax, 125.885, 1e-6);
+    EXPECT_TRUE(LoadHeightMap(Shipped / "stylus_profile.i16", {}).IsProfile());
+}
+
+TEST_F(Files, FeaturesOfTheLaserScanAreMeasured)
+{
+    LoadOptions options;
+    options.XScale = options.YScale = options.ZScale = 0.1;
+    const HeightMap scan = LoadHeightMap(Shipped / "cylinder1.png", options);
+    // The round part on the block, read off the picture by hand.
+    const Plateau part = MeasurePlateau(scan, {0.33, 0.52, 0.49, 0.755});
+    EXPECT_NEAR(part.X, 89.8, 0.5);
+    EXPECT_NEAR(part.Y, 81.8, 0.5);
+    EXPECT_NEAR(part.HalfWidth, 14.9, 0.5);
+    EXPECT_NEAR(part.HalfDepth, 14.9, 0.5);
+    EXPECT_NEAR(part.Height, 31.0, 0.3);
+    EXPECT_NEAR(part.Surrounding, 20.2, 0.5);
+    const FittedPlane top = FitPlane(scan, {0.094, 0.811, 0.411, 0.968});
+    EXPECT_NEAR(top.At(89.8, 81.8), part.Surrounding, 0.5) << "the part does not bend the plane";
+    EXPECT_LT(top.At(95.0, 60.0), top.At(95.0, 120.0)) << "the block leans";
 }
 
 TEST_F(Files, DamagedIntensityPicturesAreRefused)
@@ -201,9 +265,6 @@ TEST_F(Files, DamagedIntensityPicturesAreRefused)
     const std::string good = "P5 # a comment\n2 2\n# another\n255\n";
     LoadIntensity(Write("good.pgm", good + "\x01\xff\x03\x04"), map);
     EXPECT_EQ(map.Intensities, (std::vector<uint8_t>{1, 255, 3, 4}));
-    LoadIntensity(Write("dark.pgm", good + "\x01\x02\x03\x01"), map);
-    SpreadIntensities(map);
-    EXPECT_EQ(map.Intensities, (std::vector<uint8_t>{0, 127, 255, 0}));
     for (const std::string bad :
          {"P5 2 2 255\n123", "P5 2 2 65535\n12345678", "P2 2 2 255\n1 2 3 4", "P5 2 2",
           "P5 -2 -2 255\n1234", "P5 99999999999 2 255\n1234", "P5 60000 60000 255\n1234", ""})

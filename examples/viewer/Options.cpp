@@ -49,8 +49,8 @@ void DeclareLook(CLI::App& app, Options& options, Words& words)
         ->check(CLI::IsMember({"full", "points"}))
         ->capture_default_str();
     app.add_option("--z-exaggeration", words.Exaggeration,
-                   "factor on the heights, or auto; scales, bar and coordinates show heights times "
-                   "this factor")
+                   "factor on the heights, or auto; scale frame and bar show heights times this "
+                   "factor")
         ->capture_default_str();
     app.add_option("--palette", options.Look.Surface.Palette,
                    "colours of the heights: 0 rainbow, 1 spectrum, 2 red, 3 green, 4 blue, 5 grey, "
@@ -58,21 +58,21 @@ void DeclareLook(CLI::App& app, Options& options, Words& words)
         ->check(CLI::Range(0, 6));
     app.add_option("--range", words.Range,
                    "heights from the first to the last colour: auto, PERCENT% to leave out at each "
-                   "end, or MIN:MAX")
+                   "end, or MIN:MAX in the unit that the title shows")
         ->capture_default_str();
     app.add_option("--profiles", options.Look.Profiles,
                    "draw this many rows of the surface as profiles above it")
         ->check(CLI::Range(0, 1000));
     app.add_option("--scene", words.Scene,
                    "surface: marks at the lowest and highest sample; geometry: geometric elements "
-                   "on the features of the laser scan")
+                   "on the features of the laser scan (their handles have a radius of 0.05 units, "
+                   "so that a unit suits in which the surface has a few)")
         ->check(CLI::IsMember({"surface", "geometry"}))
         ->capture_default_str();
     app.add_flag("--frame", options.Around.Frame, "scale frame around the measurement");
     app.add_flag("--bar", options.Around.Bar, "bar of the surface's colours");
     app.add_flag("--axes", options.Around.Axes, "coordinate axes");
     app.add_flag("--marker", options.Around.Marker, "orientation marker in the corner");
-    app.add_flag("--coordinates", options.Around.Coordinates, "coordinates under the mouse");
 }
 
 void DeclareOutput(CLI::App& app, Options& options, Words& words)
@@ -83,8 +83,8 @@ void DeclareOutput(CLI::App& app, Options& options, Words& words)
     app.footer("Keys: r frames the scene, 0 to 5 look along an axis, p parallel projection,\n"
                "c next palette, + and - clip more or less of the heights, i intensity,\n"
                "m isolated samples, f scale frame, b bar, a coordinate axes, o orientation\n"
-               "marker, x coordinates under the mouse, h handles on the next element that can be\n"
-               "dragged, n next file, q or Escape end.");
+               "marker, h handles on the next cube, cylinder or polyhedron, n next file,\n"
+               "q or Escape end.");
 }
 
 // The whole text as a finite number, or nothing.

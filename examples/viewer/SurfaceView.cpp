@@ -17,10 +17,12 @@ namespace
 // A dark grey blue: no palette colour, so that holes in the data are seen as holes.
 constexpr Color Background = {28, 32, 40};
 
-// The library leaves room for the sphere around the scene; a flat surface can come nearer, as far
-// as the labels of the frame leave room.
-constexpr double Nearer = 1.35;
+// The library leaves room for the sphere around the scene. A flat surface that is seen obliquely
+// can come nearer, and a line too, as far as frame and bar leave room.
+constexpr double Nearer = 1.25;
 constexpr double NearerWithFrame = 1.2;
+constexpr double NearerWithBar = 1.06;
+constexpr double FlatRelief = 0.35; // height as a share of the longer side
 
 // Share of the scene's size by which it moves to the left to make room for the bar.
 constexpr double RoomForBar = 0.09;
@@ -88,8 +90,9 @@ void SurfaceView::Show(const HeightMap& map, const HeightStatistics& statistics,
 void SurfaceView::SetDrawSpace()
 {
     // The box has to have some size for a perfectly flat surface and for a profile too.
-    const double heightRoom = std::max(0.0, 1.0 - (Highest - Lowest)) / 2.0;
-    const double depthRoom = std::max(0.0, 1.0 - Size.Depth()) / 2.0;
+    const double least = 0.01 * std::max(Size.Width(), Size.Depth());
+    const double heightRoom = std::max(0.0, least - (Highest - Lowest)) / 2.0;
+    const double depthRoom = std::max(0.0, least - Size.Depth()) / 2.0;
     Check(Tarvex_Window_SetDrawSpace(Id, Size.XMin, Size.XMax, Size.YMin - depthRoom,
                                      Size.YMax + depthRoom, Lowest - heightRoom,
                                      Highest + heightRoom),
@@ -121,8 +124,6 @@ void SurfaceView::ApplyFurniture()
           "Tarvex_Window_CoordinateAxes_Show");
     Check(Tarvex_Window_Orientation_Show(Id, Around.Marker ? 1 : 0),
           "Tarvex_Window_Orientation_Show");
-    Check(Tarvex_Window_PickCoordinates_Show(Id, Around.Coordinates ? 1 : 0),
-          "Tarvex_Window_PickCoordinates_Show");
 }
 
 void SurfaceView::ToggleFurniture(bool Furniture::*part)
@@ -156,7 +157,8 @@ void SurfaceView::Frame()
     const SceneUpdate update(Id);
     Zoom(1.0);
     Check(Tarvex_Window_Camera_AutoSize(Id), "Tarvex_Window_Camera_AutoSize");
-    ComeNearer();
+    const bool flat = Highest - Lowest < FlatRelief * std::max(Size.Width(), Size.Depth());
+    ComeNearer(flat ? Nearer : 1.0);
 }
 
 void SurfaceView::ShowFrom(int32_t predefinedView)
@@ -165,13 +167,15 @@ void SurfaceView::ShowFrom(int32_t predefinedView)
     Zoom(1.0);
     Check(Tarvex_Window_Camera_SetPredefinedView(Id, predefinedView),
           "Tarvex_Window_Camera_SetPredefinedView");
-    ComeNearer();
+    // From above a surface fills more of the sphere.
+    ComeNearer(ShownSurface ? NearerWithBar : Nearer);
 }
 
-void SurfaceView::ComeNearer()
+void SurfaceView::ComeNearer(double most)
 {
-    Zoom(Around.Frame ? NearerWithFrame : Nearer);
-    if (!Around.Bar || !ShownSurface)
+    const bool hasBar = Around.Bar && ShownSurface;
+    Zoom(std::min(most, hasBar ? NearerWithBar : Around.Frame ? NearerWithFrame : Nearer));
+    if (!hasBar)
     {
         return;
     }

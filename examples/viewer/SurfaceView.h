@@ -18,11 +18,10 @@ struct RgbPicture
 // What stands around the measurement.
 struct Furniture
 {
-    bool Frame = false;       // box with scales around the measurement
-    bool Bar = false;         // colours and heights of the surface
-    bool Axes = false;        // coordinate axes through the origin
-    bool Marker = false;      // small axes in the corner that turn along
-    bool Coordinates = false; // of what is under the mouse
+    bool Frame = false;  // box with scales around the measurement
+    bool Bar = false;    // colours and heights of the surface
+    bool Axes = false;   // coordinate axes through the origin
+    bool Marker = false; // small axes in the corner that turn along
 };
 
 // What is shown of a measurement.
@@ -63,7 +62,7 @@ private:
     void SetDrawSpace();
     void LookObliquely();
     void ApplyFurniture();
-    void ComeNearer();
+    void ComeNearer(double most);
     void Zoom(double factor);
     void Redraw();
 

@@ -19,6 +19,7 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -90,6 +91,12 @@ Scene Load(const std::string& file, const Options& options)
     scene.Look = options.Look;
     scene.Look.Surface.Exaggeration =
         options.Exaggeration.value_or(ChooseExaggeration(scene.Map, scene.Statistics));
+    const ColorRange& range = options.Look.Surface.Range;
+    // The least that the library tells apart.
+    if (range.Fixed && (range.Max - range.Min) * scene.Look.Surface.Exaggeration <= 0.001)
+    {
+        throw std::runtime_error("--range: MIN and MAX are too near to each other");
+    }
     scene.Title = MakeTitle(file, scene.Map, scene.Look.Surface.Exaggeration);
     if (options.Print)
     {
@@ -200,9 +207,6 @@ private:
             break;
         case XK_o:
             View.ToggleFurniture(&Furniture::Marker);
-            break;
-        case XK_x:
-            View.ToggleFurniture(&Furniture::Coordinates);
             break;
         case XK_h:
             View.ActivateNextElement();
