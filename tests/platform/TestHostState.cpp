@@ -123,21 +123,27 @@ TEST(HostState, VtkMessagesAreKeptFromStandardErrorAndFromTheHost)
     EXPECT_NE(std::string(text.data()).find("a complaint of VTK's"), std::string::npos);
 }
 
-TEST(HostState, CursorOfAViewChangesAtOnce)
+TEST(HostState, CursorOfAViewChangesWithoutAnotherCall)
 {
     TestHost host;
     TestView view(host.Handle());
-    host.MoveMouse(NativeOf(view.Id), 50, 50);
+    Settle();
+    const Window sample =
+        XCreateSimpleWindow(host.Connection, host.Native, 300, 300, 50, 50, 0, 0, 0);
+    XMapWindow(host.Connection, sample);
     for (const auto& [shape, glyph] :
          {std::pair{VTK_CURSOR_SIZEALL, XC_fleur}, std::pair{VTK_CURSOR_ARROW, XC_top_left_arrow}})
     {
-        SetCursor(view.Id, VTK_CURSOR_DEFAULT);
-        // The view has none of its own now, so this one shows through.
-        XDefineCursor(host.Connection, host.Native, XCreateFontCursor(host.Connection, glyph));
-        const auto expected = CursorPixels(host);
-        XDefineCursor(host.Connection, host.Native, XCreateFontCursor(host.Connection, XC_watch));
+        XDefineCursor(host.Connection, sample, XCreateFontCursor(host.Connection, glyph));
+        host.MoveMouse(sample, 20, 20);
+        const std::vector<unsigned long> expected = CursorPixels(host);
+        host.MoveMouse(NativeOf(view.Id), 50, 50);
         EXPECT_NE(CursorPixels(host), expected);
         SetCursor(view.Id, shape);
+        for (int wait = 0; wait < 100 && CursorPixels(host) != expected; ++wait)
+        {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
         EXPECT_EQ(CursorPixels(host), expected);
     }
 }
