@@ -55,9 +55,9 @@ TARVEX_API int32_t TarvexExt_Window2D_CopyImage(int32_t windowId, uint8_t* rgb, 
 
 /**
  * Holds back the renders of a 3D view, so that a host can fill or change a scene without a picture
- * for each call. Until the matching TarvexExt_Window_EndUpdate nothing of the view renders, also not
- * for mouse or window events; every status and getter is as without it. Updates nest. Deleting the
- * view or unloading with an update open is fine. Does not render.
+ * for each call. Until the matching TarvexExt_Window_EndUpdate nothing of the view renders, also
+ * not for mouse or window events; every status and getter is as without it. Updates nest. Deleting
+ * the view or unloading with an update open is fine. Does not render.
  *
  * @param[in] windowId The view.
  * @return STATUS_OK; the common statuses of Tarvex.h.

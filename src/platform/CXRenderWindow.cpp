@@ -21,7 +21,9 @@ vtkStandardNewMacro(CXRenderWindow);
 namespace
 {
 // Above the size of any wall of screens, below what the X server and OpenGL take.
-constexpr int mostPixels = 16384;
+constexpr int longestSide = 16384;
+// More than an 8K screen would cost gigabytes at the next picture.
+constexpr int mostPixels = 36'000'000;
 
 constexpr long eventMask = ButtonPressMask | ButtonReleaseMask | PointerMotionMask |
                            EnterWindowMask | LeaveWindowMask | ExposureMask | StructureNotifyMask;
@@ -355,8 +357,8 @@ void CXRenderWindow::MakeCurrent()
 
 void CXRenderWindow::SetSize(int width, int height)
 {
-    width = std::min(width, mostPixels);
-    height = std::min(height, mostPixels);
+    width = std::min(width, longestSide);
+    height = std::min({height, longestSide, mostPixels / std::max(width, 1)});
     if (Size[0] == width && Size[1] == height)
     {
         return;
