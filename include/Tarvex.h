@@ -1343,8 +1343,10 @@ TARVEX_API int32_t Tarvex_Element_Cylinder_GetValue(int32_t windowId, int32_t el
  * Reads a cylinder as centre, axis, radius and height, also if invalid. Does not render.
  *
  * @param[out] cx, cy, cz Midpoint of the ends, host coordinates; 0 on failure.
- * @param[out] ax, ay, az Unit vector from the first to the second end; 0 on failure.
- * @param[out] radius, height In scene units; 0 on failure.
+ * @param[out] ax, ay, az Unit vector from the first to the second end, or the other way round if
+ *     the height is negative; may be as given if the cylinder is invalid. 0 on failure.
+ * @param[out] radius, height In scene units; the height as it was set, so it may be negative. 0 on
+ *     failure.
  * @retval STATUS_BAD_INDEX No element has this id.
  * @retval STATUS_WRONG_TYPE The element is not a cylinder.
  */
@@ -1376,7 +1378,7 @@ TARVEX_API int32_t Tarvex_Element_Cylinder_SetValue(int32_t windowId, int32_t el
  * @retval STATUS_BAD_INDEX No element has this id.
  * @retval STATUS_WRONG_TYPE The element is not a cylinder.
  * @retval STATUS_TOO_SMALL The squared length of the axis is below 1e-12 while all other values are
- *     good; nothing is stored.
+ *     good; nothing is stored, but an invalid cylinder counts as valid from here on, still unseen.
  */
 TARVEX_API int32_t Tarvex_Element_Cylinder_SetValue2(int32_t windowId, int32_t elementId, double cx,
                                                      double cy, double cz, double ax, double ay,

@@ -8,8 +8,7 @@ namespace
 {
 // Takes low and high end off. The ends are positions in the sorted heights; the range that is left
 // begins and ends with the last height that still lies wholly below its end.
-void Clip(const int16_t* heights, size_t count, size_t validCount, double clipPercent,
-          HeightRange& range)
+void Clip(const int16_t* heights, size_t count, double clipPercent, HeightRange& range)
 {
     const int32_t base = range.Minimum;
     std::vector<uint32_t> sums(static_cast<size_t>(range.Maximum - base + 1));
@@ -26,7 +25,7 @@ void Clip(const int16_t* heights, size_t count, size_t validCount, double clipPe
     }
 
     const double share = clipPercent / 100.0;
-    const auto valid = static_cast<double>(validCount);
+    const double valid = sums.back();
     const auto lastAtMost = [&](double end)
     {
         const auto past = std::upper_bound(sums.begin(), sums.end(), static_cast<uint32_t>(end));
@@ -41,35 +40,25 @@ int32_t FindHeightRange(const int16_t* heights, size_t count, double clipPercent
                         HeightRange& range)
 {
     // Without branches, so that the compiler can take many samples at a time. The marker of a
-    // missing sample is the lowest number there is, so the maximum needs no test.
-    int16_t minimum = std::numeric_limits<int16_t>::max();
-    int16_t maximum = InvalidHeight;
-    size_t missing = 0;
-    constexpr size_t blockSize = 32768; // as many as a 16-bit counter can count
-    for (size_t begin = 0; begin < count; begin += blockSize)
+    // missing sample is the lowest number there is: it wins no maximum, and taken down by one it
+    // becomes the highest and wins no minimum.
+    int16_t lowestLessOne = std::numeric_limits<int16_t>::max();
+    int16_t highest = InvalidHeight;
+    for (size_t i = 0; i < count; ++i)
     {
-        const size_t end = std::min(count, begin + blockSize);
-        uint16_t missingHere = 0;
-        for (size_t i = begin; i < end; ++i)
-        {
-            const int16_t height = heights[i];
-            const bool isMissing = height == InvalidHeight;
-            missingHere = static_cast<uint16_t>(missingHere + isMissing);
-            minimum = std::min(minimum, isMissing ? std::numeric_limits<int16_t>::max() : height);
-            maximum = std::max(maximum, height);
-        }
-        missing += missingHere;
+        lowestLessOne = std::min(lowestLessOne, static_cast<int16_t>(heights[i] - 1));
+        highest = std::max(highest, heights[i]);
     }
 
     range = HeightRange{};
-    if (missing == count)
+    if (highest == InvalidHeight)
     {
         return STATUS_BAD_COUNT;
     }
-    range = HeightRange{minimum, maximum};
+    range = HeightRange{static_cast<int16_t>(lowestLessOne + 1), highest};
     if (clipPercent > 0.0)
     {
-        Clip(heights, count, count - missing, clipPercent, range);
+        Clip(heights, count, clipPercent, range);
     }
     return STATUS_OK;
 }
@@ -77,16 +66,20 @@ int32_t FindHeightRange(const int16_t* heights, size_t count, double clipPercent
 HeightRange FindRangeWhereValid(const int16_t* values, const int16_t* heights, size_t count)
 {
     // Without branches, as above.
-    constexpr HeightRange none;
-    int16_t minimum = none.Minimum;
-    int16_t maximum = none.Maximum;
+    HeightRange range;
+    int16_t lowest = range.Minimum;
+    int16_t highest = range.Maximum;
     for (size_t i = 0; i < count; ++i)
     {
-        const bool isMissing = heights[i] == InvalidHeight;
-        minimum = std::min(minimum, isMissing ? none.Minimum : values[i]);
-        maximum = std::max(maximum, isMissing ? none.Maximum : values[i]);
+        // All bits set for a missing sample.
+        const auto missing = static_cast<int16_t>(-static_cast<int>(heights[i] == InvalidHeight));
+        const auto noMinimum = static_cast<int16_t>(missing & range.Minimum);
+        const auto noMaximum = static_cast<int16_t>(missing & range.Maximum);
+        const auto valid = static_cast<int16_t>(values[i] & ~missing);
+        lowest = std::min(lowest, static_cast<int16_t>(valid | noMinimum));
+        highest = std::max(highest, static_cast<int16_t>(valid | noMaximum));
     }
-    return {minimum, maximum};
+    return {lowest, highest};
 }
 
 void WidenFlatRange(double extent, double* lowest, double* highest)

@@ -5,6 +5,7 @@
 #include "measurement/SurfaceGrid.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -66,13 +67,19 @@ struct NonUniformSamples
         {
             const auto columns = static_cast<size_t>(Grid.Columns);
             const size_t begin = static_cast<size_t>(row) * columns;
-            for (size_t sample = begin; sample < begin + columns; ++sample, point += 3)
+            const int16_t* x = Samples.X.get() + begin;
+            const int16_t* y = Samples.Y.get() + begin;
+            const int16_t* z = Samples.Heights.get() + begin;
+            const SurfaceGrid grid = Grid;
+            for (size_t column = 0; column < columns; ++column)
             {
-                const int16_t height = Samples.Heights[sample];
-                point[0] = static_cast<float>(Grid.Place(0, Samples.X[sample]));
-                point[1] = static_cast<float>(Grid.Place(1, Samples.Y[sample]));
-                point[2] =
-                    height == InvalidHeight ? MissingZ : static_cast<float>(Grid.Place(2, height));
+                const auto height = static_cast<float>(grid.Place(2, z[column]));
+                const uint32_t missing = 0U - static_cast<uint32_t>(z[column] == InvalidHeight);
+                point[3 * column] = static_cast<float>(grid.Place(0, x[column]));
+                point[3 * column + 1] = static_cast<float>(grid.Place(1, y[column]));
+                point[3 * column + 2] =
+                    std::bit_cast<float>((std::bit_cast<uint32_t>(height) & ~missing) |
+                                         (std::bit_cast<uint32_t>(MissingZ) & missing));
             }
         }
 

@@ -104,13 +104,19 @@ public:
         Coordinates->SetNumberOfComponents(3);
         Coordinates->SetNumberOfTuples(Grid.GetCount() + 4 * isolated);
 
-        AddPoints();
+        const typename Samples::RowWriter writeRow(Source, Grid);
+        int32_t written = 0;
         for (int32_t row = 0; row < Grid.Rows - 1; row += TileSize)
         {
+            // The points first: that brings the samples of the tiles into the cache.
+            const int32_t lastRow = std::min(row + TileSize, Grid.Rows - 1);
+            for (; written <= lastRow; ++written)
+            {
+                writeRow(written, PointAt(int64_t{written} * Grid.Columns));
+            }
             for (int32_t column = 0; column < Grid.Columns - 1; column += TileSize)
             {
-                AddTile(row, std::min(row + TileSize, Grid.Rows - 1), column,
-                        std::min(column + TileSize, Grid.Columns - 1));
+                AddTile(row, lastRow, column, std::min(column + TileSize, Grid.Columns - 1));
             }
         }
         AddQuads();
@@ -124,21 +130,17 @@ private:
     static constexpr int32_t TileSize = 64;
     static constexpr size_t QuadsPerStrip = 1024;
 
-    void AddPoints()
-    {
-        const typename Samples::RowWriter writeRow(Source, Grid);
-        for (int32_t row = 0; row < Grid.Rows; ++row)
-        {
-            writeRow(row, PointAt(int64_t{row} * Grid.Columns));
-        }
-    }
-
     // The cells between the given rows and columns of samples.
     void AddTile(int32_t firstRow, int32_t lastRow, int32_t firstColumn, int32_t lastColumn)
     {
         RawBox box;
+        // Of the present row of samples, what the band above it has put into the box already.
+        int32_t knownFirst = 0;
+        int32_t knownLast = -1;
         for (int32_t row = firstRow; row < lastRow; ++row)
         {
+            int32_t nextFirst = 0;
+            int32_t nextLast = -1;
             const int32_t begin = row * Grid.Columns;
             const int16_t* upper = &Source.Heights[begin];
             const int16_t* lower = upper + Grid.Columns;
@@ -153,11 +155,18 @@ private:
                 if (column - first > 1)
                 {
                     Strips.AddBand(begin + first, column - first, 1, Grid.Columns);
-                    Source.Extend(box, Grid, row, first, column - 1);
+                    if (first < knownFirst || column - 1 > knownLast)
+                    {
+                        Source.Extend(box, Grid, row, first, column - 1);
+                    }
                     Source.Extend(box, Grid, row + 1, first, column - 1);
+                    nextFirst = first;
+                    nextLast = column - 1;
                 }
                 ++column;
             }
+            knownFirst = nextFirst;
+            knownLast = nextLast;
         }
         if (!box.IsEmpty())
         {

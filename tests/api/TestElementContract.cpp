@@ -113,6 +113,31 @@ const Kind kinds[] = {
                                                   0, 1, element);
      },
      nullptr, false, false, false},
+    {"SurfaceNonUniform", TARVEX_ELEMENT_SURFACE_NON_UNIFORM,
+     [](int32_t view, double y, int32_t* element)
+     {
+         const int16_t x[] = {-5, 5, -5, 5};
+         const int16_t ys[] = {-1, -1, 1, 1};
+         const int16_t z[] = {0, 0, 0, 0};
+         return Tarvex_Element_Add_SurfaceNonUniform(view, x, ys, z, nullptr, 2, 2, 1, 1, 1, 0, y,
+                                                     0, 1, element);
+     },
+     nullptr, false, false, false},
+    {"ProfileUniform", TARVEX_ELEMENT_PROFILE_UNIFORM,
+     [](int32_t view, double y, int32_t* element)
+     {
+         const int16_t z[] = {0, 0};
+         return Tarvex_Element_Add_ProfileUniform(view, z, 2, 10, 1, -5, 0, y, element);
+     },
+     nullptr, false},
+    {"ProfileNonUniform", TARVEX_ELEMENT_PROFILE_NON_UNIFORM,
+     [](int32_t view, double y, int32_t* element)
+     {
+         const int16_t x[] = {-5, 5};
+         const int16_t z[] = {0, 0};
+         return Tarvex_Element_Add_ProfileNonUniform(view, x, z, 2, 1, 1, 0, 0, y, element);
+     },
+     nullptr, false},
 };
 
 class EachKind : public ViewFixture, public testing::WithParamInterface<Kind>

@@ -103,6 +103,15 @@ const std::vector<Export> viewCalls[] = {
             {Tarvex_Element_Add_Ellipse, Tarvex_Element_Add_Plane, Tarvex_Element_Add_Polygon}),
     Cleared({kept},
             {Tarvex_Element_Add_Cylinder, Tarvex_Element_Add_Circle, Tarvex_Element_Add_Rectangle}),
+    Cleared({0}, {Tarvex_Window_ScalarBar_IsShown}),
+    Cleared({-1}, {Tarvex_Element_Add_SurfaceNonUniform, Tarvex_Element_Add_ProfileUniform,
+                   Tarvex_Element_Add_ProfileNonUniform}),
+    Cleared({}, {Tarvex_Window_CoordinateAxes_Show, Tarvex_Window_Orientation_Show,
+                 Tarvex_Window_Cube_AxisColoring, Tarvex_Window_Cube_FlyMode,
+                 Tarvex_Window_Cube_GridLineLocation, Tarvex_Window_Cube_Remove,
+                 Tarvex_Window_Cube_ShowHide, Tarvex_Window_Cube_Visibility,
+                 Tarvex_Window_ScalarBar_Remove, Tarvex_Window_ScalarBar_ShowHide,
+                 Tarvex_Window_PickCoordinates_Show}),
 };
 
 const std::vector<Export> elementCalls[] = {
@@ -137,21 +146,11 @@ const std::vector<Export> elementCalls[] = {
                  Tarvex_Element_Polyhedron_ChangePoint, Tarvex_Element_Polyhedron_InsertPoint,
                  Tarvex_Element_Polyhedron_RemovePoint, Tarvex_Element_Polyhedron_SetAxisDirection,
                  Tarvex_Element_Polyhedron_SetHeight}),
-};
-
-const std::vector<Export> notBuilt[] = {
-    Cleared({0}, {Tarvex_Window_ScalarBar_IsShown}),
-    Cleared({-1},
-            {Tarvex_Window_GetDrawMode, Tarvex_Element_GetPalette_SurfaceUniform,
-             Tarvex_Element_Add_SurfaceNonUniform, Tarvex_Element_GetPalette_SurfaceNonUniform,
-             Tarvex_Element_Add_ProfileUniform, Tarvex_Element_Add_ProfileNonUniform}),
-    Cleared({}, {Tarvex_Window_SetDrawMode, Tarvex_Window_CoordinateAxes_Show,
-                 Tarvex_Window_Orientation_Show, Tarvex_Window_Cube_Add_Resize,
-                 Tarvex_Window_Cube_AxisColoring, Tarvex_Window_Cube_FlyMode,
-                 Tarvex_Window_Cube_GridLineLocation, Tarvex_Window_Cube_Remove,
-                 Tarvex_Window_Cube_ShowHide, Tarvex_Window_Cube_Visibility,
-                 Tarvex_Window_ScalarBar_Add, Tarvex_Window_ScalarBar_Remove,
-                 Tarvex_Window_ScalarBar_ShowHide, Tarvex_Window_PickCoordinates_Show}),
+    Cleared({-1}, {Tarvex_Element_GetPalette_SurfaceUniform,
+                   Tarvex_Element_GetPalette_SurfaceNonUniform}),
+    Cleared({0, -1, 0, 0}, {Tarvex_Element_GetZScalingPalette_SurfaceUniform,
+                            Tarvex_Element_GetZScalingPalette_SurfaceNonUniform}),
+    Cleared({1}, {Tarvex_Element3D_SurfaceNonUniform_GetRepresentationMode}),
     Cleared({}, {Tarvex_Element_SetPalette_SurfaceUniform,
                  Tarvex_Element_ZScalingPalette_SurfaceUniform,
                  Tarvex_Element_SurfaceNonUniform_SetValue,
@@ -159,10 +158,13 @@ const std::vector<Export> notBuilt[] = {
                  Tarvex_Element_ShowIntensity_SurfaceNonUniform,
                  Tarvex_Element3D_SurfaceNonUniform_SetRepresentationMode,
                  Tarvex_Element_SetPalette_SurfaceNonUniform,
-                 Tarvex_Element_ZScalingPalette_SurfaceNonUniform}),
-    Cleared({0, -1, 0, 0}, {Tarvex_Element_GetZScalingPalette_SurfaceUniform,
-                            Tarvex_Element_GetZScalingPalette_SurfaceNonUniform}),
-    Cleared({1}, {Tarvex_Element3D_SurfaceNonUniform_GetRepresentationMode}),
+                 Tarvex_Element_ZScalingPalette_SurfaceNonUniform, Tarvex_Window_ScalarBar_Add,
+                 Tarvex_Window_Cube_Add_Resize}),
+};
+
+const std::vector<Export> notBuilt[] = {
+    Cleared({-1}, {Tarvex_Window_GetDrawMode}),
+    Cleared({}, {Tarvex_Window_SetDrawMode}),
 };
 
 const std::vector<Export> charts[] = {

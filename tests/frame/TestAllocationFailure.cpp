@@ -122,6 +122,27 @@ TEST_F(AllocationFailure, InAnAddOfASurfaceLeavesNoElementAndUsesNoId)
         });
 }
 
+TEST_F(AllocationFailure, InAnAddOfFreePositionsLeavesNoElementAndUsesNoId)
+{
+    FailEachOfAdd(
+        [&](int32_t* element)
+        {
+            const int16_t* raw = Heights.data();
+            return Tarvex_Element_Add_SurfaceNonUniform(View.Id, raw, raw, raw, nullptr, 40, 30,
+                                                        1.0, 1.0, 1.0, 0.0, 0.0, 0.0, 0, element);
+        });
+}
+
+TEST_F(AllocationFailure, InAnAddOfAProfileLeavesNoElementAndUsesNoId)
+{
+    FailEachOfAdd(
+        [&](int32_t* element)
+        {
+            return Tarvex_Element_Add_ProfileNonUniform(View.Id, Heights.data(), Heights.data(), 99,
+                                                        1.0, 1.0, 0.0, 0.0, 0.0, element);
+        });
+}
+
 TEST_F(AllocationFailure, InACallOnAnElementLeavesItUsable)
 {
     int32_t surface = -1;
@@ -151,6 +172,14 @@ TEST_F(AllocationFailure, InACallOnAnElementLeavesItUsable)
         },
         [&] { return Tarvex_Element_ShowIntensity_SurfaceUniform(id, surface, 1); },
         [&] { return Tarvex_Element3D_SurfaceUniform_SetRepresentationMode(id, surface, 1); },
+        [&] { return Tarvex_Element_SetPalette_SurfaceUniform(id, surface, 3); },
+        [&] { return Tarvex_Element_ShowIntensity_SurfaceUniform(id, surface, 0); },
+        [&]
+        { return Tarvex_Element_ZScalingPalette_SurfaceUniform(id, surface, 1, 5.0, 0.0, 0.0); },
+        [&] { return Tarvex_Window_ScalarBar_Add(id, surface); },
+        [&] { return Tarvex_Window_ScalarBar_ShowHide(id, 0); },
+        [&] { return Tarvex_Window_PickCoordinates_Show(id, 1); },
+        [&] { return Tarvex_Window_PickCoordinates_Show(id, 0); },
         [&] { return Tarvex_Window_SetDrawSpace(id, -9.0, 9.0, -9.0, 9.0, -9.0, 9.0); },
         [&] { return Tarvex_Window_SetBackgroundColor(id, 1, 2, 3); },
         [&] { return Tarvex_Window_UpdateSize(id, 1, 1, 120, 110); },

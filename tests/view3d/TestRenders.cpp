@@ -42,6 +42,7 @@ protected:
     // Where the calls write; nobody looks at it.
     double x, y, z, u, v, w;
     int32_t number;
+    uint32_t palette;
     uint8_t red, green, blue;
 };
 
@@ -168,5 +169,67 @@ TEST_F(Renders, OfCallsOnAUniformSurface)
     Expect(1, STATUS_OK, Tarvex_Element3D_SurfaceUniform_SetRepresentationMode(Id, 0, 0));
     Expect(0, STATUS_NOT_SUPPORTED, Tarvex_Element_SetSize(Id, 0, 1));
     Expect(0, STATUS_NOT_SUPPORTED, Tarvex_Element_GetSize(Id, 0, &x));
+    Expect(1, STATUS_OK, Tarvex_Element_SetPalette_SurfaceUniform(Id, 0, 1));
+    Expect(1, STATUS_OUT_OF_RANGE, Tarvex_Element_SetPalette_SurfaceUniform(Id, 0, 7));
+    Expect(0, STATUS_OK, Tarvex_Element_GetPalette_SurfaceUniform(Id, 0, &palette));
+    Expect(1, STATUS_BAD_POINT, Tarvex_Element_ZScalingPalette_SurfaceUniform(Id, 0, 1, 0, 0, 0));
+    Expect(0, STATUS_OK, Tarvex_Element_GetZScalingPalette_SurfaceUniform(Id, 0, &red, &x, &y, &z));
+}
+
+TEST_F(Renders, OfCallsOnANonUniformSurface)
+{
+    const int16_t raw[] = {1, 2, 3, 4};
+    const int16_t missing[] = {-32768, -32768, -32768, -32768};
+    const uint8_t levels[] = {1, 2, 3, 4};
+    Expect(1, STATUS_OK,
+           Tarvex_Element_Add_SurfaceNonUniform(Id, raw, raw, raw, nullptr, 2, 2, 1, 1, 1, 0, 0, 0,
+                                                1, &number));
+    Expect(1, STATUS_OK,
+           Tarvex_Element_SurfaceNonUniform_SetValue(Id, 0, raw, raw, raw, nullptr, 2, 2, 1, 1, 1,
+                                                     0, 0, 0));
+    Expect(0, STATUS_BAD_COUNT,
+           Tarvex_Element_SurfaceNonUniform_SetValue(Id, 0, raw, raw, missing, nullptr, 2, 2, 1, 1,
+                                                     1, 0, 0, 0));
+    Expect(0, STATUS_OK, Tarvex_Element_SurfaceNonUniform_AddIntensity(Id, 0, levels, 2, 2));
+    Expect(1, STATUS_OK, Tarvex_Element_ShowIntensity_SurfaceNonUniform(Id, 0, 1));
+    Expect(0, STATUS_OK, Tarvex_Element3D_SurfaceNonUniform_GetRepresentationMode(Id, 0, &red));
+    Expect(1, STATUS_OK, Tarvex_Element3D_SurfaceNonUniform_SetRepresentationMode(Id, 0, 0));
+    Expect(1, STATUS_OK, Tarvex_Element_SetPalette_SurfaceNonUniform(Id, 0, 1));
+    // Unlike that of the uniform surface.
+    Expect(1, STATUS_OK, Tarvex_Element_GetPalette_SurfaceNonUniform(Id, 0, &palette));
+    Expect(1, STATUS_OK, Tarvex_Element_ZScalingPalette_SurfaceNonUniform(Id, 0, 0, 0, 1, 9));
+    Expect(0, STATUS_OK,
+           Tarvex_Element_GetZScalingPalette_SurfaceNonUniform(Id, 0, &red, &x, &y, &z));
+    Expect(0, STATUS_WRONG_TYPE, Tarvex_Element_SetPalette_SurfaceUniform(Id, 0, 1));
+}
+
+TEST_F(Renders, OfCallsOnProfiles)
+{
+    const int16_t raw[] = {1, 2, -32768};
+    Expect(1, STATUS_OK, Tarvex_Element_Add_ProfileUniform(Id, raw, 3, 1, 1, 0, 0, 0, &number));
+    Expect(1, STATUS_OK,
+           Tarvex_Element_Add_ProfileNonUniform(Id, raw, raw, 3, 1, 1, 0, 0, 0, &number));
+    Expect(0, STATUS_TOO_SMALL,
+           Tarvex_Element_Add_ProfileUniform(Id, raw, 1, 1, 1, 0, 0, 0, &number));
+}
+
+TEST_F(Renders, OfCallsOnOverlays)
+{
+    const int16_t raw[] = {1, 2, 3, 4};
+    Tarvex_Element_Add_SurfaceUniform(Id, raw, nullptr, 2, 2, 1, 1, 1, 0, 0, 0, 1, &number);
+    AddPoint(0, 0, 0);
+    Count = 0;
+    Expect(0, STATUS_OK, Tarvex_Window_ScalarBar_Remove(Id));
+    Expect(0, STATUS_NOT_READY, Tarvex_Window_ScalarBar_ShowHide(Id, 1));
+    Expect(0, STATUS_WRONG_TYPE, Tarvex_Window_ScalarBar_Add(Id, 1));
+    Expect(1, STATUS_OK, Tarvex_Window_ScalarBar_Add(Id, 0));
+    Expect(1, STATUS_OK, Tarvex_Window_ScalarBar_Add(Id, 0));
+    Expect(1, STATUS_OK, Tarvex_Window_ScalarBar_ShowHide(Id, 0));
+    Expect(0, STATUS_OK, Tarvex_Window_ScalarBar_IsShown(Id, &red));
+    Expect(1, STATUS_OK, Tarvex_Window_ScalarBar_Remove(Id));
+    Expect(0, STATUS_OK, Tarvex_Window_PickCoordinates_Show(Id, 0));
+    Expect(1, STATUS_OK, Tarvex_Window_PickCoordinates_Show(Id, 1));
+    Expect(0, STATUS_OK, Tarvex_Window_PickCoordinates_Show(Id, 1));
+    Expect(1, STATUS_OK, Tarvex_Window_PickCoordinates_Show(Id, 0));
 }
 } // namespace
