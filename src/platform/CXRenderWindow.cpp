@@ -64,9 +64,12 @@ CXRenderWindow::~CXRenderWindow()
     Unregister();
     if (IsConnected())
     {
-        if (Native)
+        for (const Window window : {Lost ? 0 : Native, Hidden})
         {
-            XDestroyWindow(DisplayId, Native);
+            if (window)
+            {
+                XDestroyWindow(DisplayId, window);
+            }
         }
         if (ColorMap)
         {
@@ -85,7 +88,7 @@ void CXRenderWindow::SetConnection(std::shared_ptr<XConnection> connection)
     SetDisplayId(Connection ? Connection->Drawing : nullptr);
 }
 
-bool CXRenderWindow::CreateNativeWindow()
+bool CXRenderWindow::CreateWindows()
 {
     auto* visual = reinterpret_cast<XVisualInfo*>(GetDesiredVisualInfo());
     if (!visual)
@@ -104,6 +107,8 @@ bool CXRenderWindow::CreateNativeWindow()
     attributes.colormap = ColorMap;
     attributes.event_mask = eventMask;
     attributes.override_redirect = GetBorders() == 0 ? True : False;
+    Hidden = XCreateWindow(DisplayId, root, 0, 0, 1, 1, 0, visual->depth, InputOutput,
+                           visual->visual, CWBorderPixel | CWColormap, &attributes);
     XSync(DisplayId, False); // the other connection names the colour map
     // By the connection that the event pump reads: a window manager tells a window's creator that
     // it shall close. A child of the root until the context stands: only we can destroy it so far.
@@ -112,6 +117,9 @@ bool CXRenderWindow::CreateNativeWindow()
         static_cast<unsigned>(std::max(Size[0], 1)), static_cast<unsigned>(std::max(Size[1], 1)), 0,
         visual->depth, InputOutput, visual->visual,
         CWBackPixel | CWBorderPixel | CWColormap | CWEventMask | CWOverrideRedirect, &attributes);
+    WindowVisual = visual->visual;
+    WindowDepth = visual->depth;
+    CanPutPictures = XPicture::Suits(DisplayId, *visual);
     XFree(visual);
     // This takes waiting events out of the descriptor's sight; those of the window's placing, which
     // come now, make it readable again.
@@ -121,7 +129,7 @@ bool CXRenderWindow::CreateNativeWindow()
         Native = 0;
         return false;
     }
-    WindowId = Native;
+    WindowId = Hidden;
     X11->Views[Native] = this;
     XSelectInput(DisplayId, Native, StructureNotifyMask);
     return true;
@@ -139,33 +147,45 @@ bool CXRenderWindow::PlaceInParent()
     XErrorTrap trap;
     if (ParentId && ParentId != DefaultRootWindow(DisplayId))
     {
-        XReparentWindow(DisplayId, WindowId, ParentId, Position[0], Position[1]);
+        XReparentWindow(DisplayId, Native, ParentId, Position[0], Position[1]);
     }
     else
     {
         // On its own it is closed by its user: as a lost window, not as a killed connection.
-        XSetWMProtocols(DisplayId, WindowId, &Connection->DeleteWindow, 1);
+        XSetWMProtocols(DisplayId, Native, &Connection->DeleteWindow, 1);
     }
     XSync(DisplayId, False);
     if (trap.Failed() || !IsConnected())
     {
         return false;
     }
-    XMapWindow(DisplayId, WindowId);
+    XMapWindow(DisplayId, Native);
     XSync(DisplayId, False);
     return !trap.Failed() && IsConnected();
 }
 
-void CXRenderWindow::ChooseSampling()
+void CXRenderWindow::ChooseWayToScreen()
 {
     const char* renderer = reinterpret_cast<const char*>(glGetString(GL_RENDERER));
     const std::string_view name = renderer ? renderer : "";
-    // Nearly free on hardware, several times the frame on a software rasteriser.
-    Software = name.find("llvmpipe") != name.npos || name.find("softpipe") != name.npos ||
-               name.find("SWR") != name.npos || name.find("SVGA3D") != name.npos;
-    if (Software)
+    const bool software = name.find("llvmpipe") != name.npos ||
+                          name.find("softpipe") != name.npos || name.find("SWR") != name.npos ||
+                          name.find("SVGA3D") != name.npos;
+    if (software)
     {
+        // Nearly free on hardware, several times the frame here.
         SetMultiSamples(0);
+    }
+    PutsPictures = software && CanPutPictures;
+    if (PutsPictures)
+    {
+        SetFrameBlitModeToNoBlit();
+    }
+    else
+    {
+        WindowId = Native;
+        SetForceMakeCurrent();
+        MakeCurrent();
     }
 }
 
@@ -181,7 +201,7 @@ void CXRenderWindow::Initialize()
         Superclass::Initialize();
         return;
     }
-    if (!CreateNativeWindow())
+    if (!CreateWindows())
     {
         Lost = true;
         return;
@@ -192,7 +212,7 @@ void CXRenderWindow::Initialize()
         Close();
         return;
     }
-    ChooseSampling();
+    ChooseWayToScreen();
 }
 
 void* CXRenderWindow::GetGenericWindowId()
@@ -201,7 +221,7 @@ void* CXRenderWindow::GetGenericWindowId()
     {
         ReadNotices(*Connection);
     }
-    return IsUsable() ? reinterpret_cast<void*>(WindowId) : nullptr;
+    return IsUsable() ? reinterpret_cast<void*>(Native) : nullptr;
 }
 
 bool CXRenderWindow::IsStillThere()
@@ -212,7 +232,7 @@ bool CXRenderWindow::IsStillThere()
     }
     XErrorTrap trap;
     XWindowAttributes attributes;
-    if (!XGetWindowAttributes(DisplayId, WindowId, &attributes) || trap.Failed())
+    if (!XGetWindowAttributes(DisplayId, Native, &attributes) || trap.Failed())
     {
         MarkLost();
     }
@@ -227,25 +247,11 @@ void CXRenderWindow::MarkLost()
     }
     Lost = true;
     Unregister();
-    if (!IsConnected() || !WindowId)
+    if (IsConnected() && WindowId)
     {
-        return;
+        WindowId = Hidden;
+        SetForceMakeCurrent();
     }
-    XErrorTrap trap;
-    auto* visual = reinterpret_cast<XVisualInfo*>(GetDesiredVisualInfo());
-    if (!visual)
-    {
-        return;
-    }
-    XSetWindowAttributes attributes = {};
-    attributes.border_pixel = 0;
-    attributes.colormap = ColorMap;
-    Native = XCreateWindow(DisplayId, RootWindow(DisplayId, visual->screen), 0, 0, 1, 1, 0,
-                           visual->depth, InputOutput, visual->visual, CWBorderPixel | CWColormap,
-                           &attributes);
-    XFree(visual);
-    WindowId = Native;
-    XSync(DisplayId, False);
 }
 
 void CXRenderWindow::Close()
@@ -281,15 +287,26 @@ void CXRenderWindow::Frame()
     {
         return;
     }
-    const bool resized = Size[0] != PictureSize[0] || Size[1] != PictureSize[1];
-    if (Software && resized && PictureSize[0] > 0)
+    if (PutsPictures)
     {
-        // Mesa looks at the size of the window once after each swap. If that was before the resize,
-        // this picture would appear in the old size and at the wrong place.
         MakeCurrent();
-        glXSwapBuffers(DisplayId, WindowId);
+        vtkOpenGLRenderWindow::Frame(); // NOLINT(bugprone-parent-virtual-call): shows nothing yet
+        PutPicture();
     }
-    Superclass::Frame();
+    else
+    {
+        Superclass::Frame();
+    }
+}
+
+void CXRenderWindow::PutPicture()
+{
+    const vtkRecti all(0, 0, Size[0], Size[1]);
+    if (ReadPixels(all, 1, GL_BGRA, GL_UNSIGNED_BYTE, Screen.Prepare(Size[0], Size[1]), 0) ==
+        VTK_OK)
+    {
+        Screen.Put(DisplayId, Native, WindowVisual, WindowDepth);
+    }
 }
 
 bool CXRenderWindow::ReleaseRenders()
@@ -366,7 +383,7 @@ void CXRenderWindow::SetSize(int width, int height)
     if (WindowId && IsStillThere())
     {
         XErrorTrap trap;
-        XResizeWindow(DisplayId, WindowId, static_cast<unsigned>(width),
+        XResizeWindow(DisplayId, Native, static_cast<unsigned>(width),
                       static_cast<unsigned>(height));
         XSync(DisplayId, False);
     }
@@ -394,7 +411,8 @@ void CXRenderWindow::SetPosition(int x, int y)
     else if (IsStillThere())
     {
         XErrorTrap trap;
-        Superclass::SetPosition(x, y);
+        XMoveWindow(DisplayId, Native, x, y);
+        XSync(DisplayId, False);
     }
 }
 
@@ -403,7 +421,9 @@ void CXRenderWindow::SetCurrentCursor(int shape)
     if (IsUsable() && shape != GetCurrentCursor())
     {
         XErrorTrap trap;
+        const Window drawnTo = std::exchange(WindowId, Native);
         Superclass::SetCurrentCursor(shape);
+        WindowId = drawnTo;
         XFlush(DisplayId);
     }
 }
@@ -432,12 +452,7 @@ bool CXRenderWindow::CopyPicture(uint8_t* rgb)
     {
         return false;
     }
-    for (int32_t row = 0; row < height / 2; ++row)
-    {
-        uint8_t* upper = rgb + rowBytes * static_cast<size_t>(row);
-        uint8_t* lower = rgb + rowBytes * static_cast<size_t>(height - 1 - row);
-        std::swap_ranges(upper, upper + rowBytes, lower);
-    }
+    FlipRows(rgb, rowBytes, static_cast<size_t>(height));
     return true;
 }
 
@@ -454,7 +469,7 @@ void CXRenderWindow::DestroyWindow()
     }
     else if (WindowId)
     {
-        // A window that is gone by now is replaced before the context is asked to free anything.
+        // From a window that is gone by now the context moves to the hidden one.
         IsStillThere();
     }
     Superclass::DestroyWindow();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/XConnection.h"
+#include "platform/XPicture.h"
 
 #include <vtkXOpenGLRenderWindow.h>
 
@@ -18,8 +19,7 @@ public:
     void SetConnection(std::shared_ptr<XConnection> connection);
     const std::shared_ptr<XConnection>& GetConnection() const { return Connection; }
 
-    // Somebody destroyed the native window. The context gets another one instead, so that its
-    // resources can still be freed.
+    // Somebody destroyed the native window.
     void MarkLost();
     // Destroys the native window: a view without one is lost.
     void Close();
@@ -55,19 +55,31 @@ protected:
 
 private:
     bool IsConnected() const { return Connection && !Connection->IsBroken(); }
-    bool IsUsable() const { return !Lost && WindowId && IsConnected(); }
+    bool IsUsable() const { return !Lost && Native && IsConnected(); }
     // Asks the server, for the calls that are expensive anyway and fatal without a window.
     bool IsStillThere();
     void Unregister();
-    bool CreateNativeWindow();
+    bool CreateWindows();
     bool PlaceInParent();
-    void ChooseSampling();
+    void ChooseWayToScreen();
+    void PutPicture();
 
     std::shared_ptr<XConnection> Connection;
-    Window Native = 0; // as WindowId, but ours to destroy
+    // What the host sees. Others can destroy it at any moment.
+    Window Native = 0;
+    // Never on screen, so that nobody but us destroys it: the context always has a window to be
+    // current on, and its resources can be freed whatever became of the native one.
+    Window Hidden = 0;
+    Visual* WindowVisual = nullptr;
+    int WindowDepth = 0;
+    // With OpenGL on the processor, the context stays on the hidden window and finished pictures
+    // are put into the native one: Mesa crashes when the window that it draws to is destroyed
+    // between two of its requests.
+    bool PutsPictures = false;
+    bool CanPutPictures = false;
+    XPicture Screen;
     bool Lost = false;
     int Holds = 0;
     bool RenderHeld = false;     // asked for while held
-    bool Software = false;       // OpenGL is drawn by the processor
     int PictureSize[2] = {0, 0}; // 0, 0 before the first render
 };
