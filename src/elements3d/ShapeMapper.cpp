@@ -10,7 +10,10 @@
 
 vtkStandardNewMacro(ShapeMapper);
 
-ShapeMapper::ShapeMapper() = default;
+ShapeMapper::ShapeMapper()
+{
+    this->StaticOn();
+}
 
 ShapeMapper::~ShapeMapper()
 {
@@ -18,9 +21,26 @@ ShapeMapper::~ShapeMapper()
     this->ReleaseGraphicsResources(nullptr);
 }
 
-void ShapeMapper::UpdateGeometry()
+void ShapeMapper::UpdateSource()
 {
-    this->GetInputAlgorithm()->Update();
+    vtkAlgorithm* source = this->GetInputAlgorithm();
+    if (source->GetMTime() > SourceTime)
+    {
+        source->Update();
+        SourceTime.Modified();
+    }
+}
+
+double* ShapeMapper::GetBounds()
+{
+    UpdateSource();
+    return this->Superclass::GetBounds();
+}
+
+void ShapeMapper::RenderPiece(vtkRenderer* renderer, vtkActor* actor)
+{
+    UpdateSource();
+    this->Superclass::RenderPiece(renderer, actor);
 }
 
 void ShapeMapper::BuildBufferObjects(vtkRenderer* renderer, vtkActor* actor)
