@@ -1,196 +1,123 @@
 // The camera of a 3D view, in the world's frame.
 #include "support/ViewFixture.h"
 
-#include <array>
-#include <cmath>
-
 namespace
 {
-using Vector = std::array<double, 3>;
-
+using testing::DoubleNear;
+using testing::Pointwise;
 class Camera : public ViewFixture
 {
 protected:
-    struct State
+    // Position, direction and up.
+    Numbers Get() const
     {
-        Vector Position = {77, 77, 77};
-        Vector Direction = {77, 77, 77};
-        Vector Up = {77, 77, 77};
-        bool operator==(const State&) const = default;
-    };
-
-    State Get() const
-    {
-        State got;
-        auto& [position, direction, up] = got;
-        EXPECT_EQ(Tarvex_Window_Camera_GetPosition(Id, &position[0], &position[1], &position[2]),
-                  STATUS_OK);
-        EXPECT_EQ(Tarvex_Window_Camera_GetViewDirection(Id, &direction[0], &direction[1],
-                                                        &direction[2], &up[0], &up[1], &up[2]),
-                  STATUS_OK);
+        Numbers got = Read(Tarvex_Window_Camera_GetPosition);
+        const Numbers turn = Read(Tarvex_Window_Camera_GetViewDirection);
+        got.insert(got.end(), turn.begin(), turn.end());
         return got;
     }
-    int32_t SetDirection(const Vector& direction, const Vector& up) const
+    int32_t Turn(const Numbers& to) const
     {
-        return Tarvex_Window_Camera_SetViewDirection(Id, direction[0], direction[1], direction[2],
-                                                     up[0], up[1], up[2]);
+        return Call(Tarvex_Window_Camera_SetViewDirection, to);
     }
-    int CountLit() const { return TakePicture(Id).Count(IsLit); }
+    void MoveTo(double x, double y, double z) const
+    {
+        EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, x, y, z), STATUS_OK);
+    }
+    int32_t Zoom(double factor) const { return Tarvex_Window_Camera_SetZoom(Id, factor); }
+    int32_t Show(int32_t view) const { return Tarvex_Window_Camera_SetPredefinedView(Id, view); }
 };
-
-void ExpectNear(const Vector& got, const Vector& expected, double tolerance = 1e-9)
-{
-    for (size_t axis = 0; axis < 3; ++axis)
-    {
-        EXPECT_NEAR(got[axis], expected[axis], tolerance) << "axis " << axis;
-    }
-}
 
 TEST_F(Camera, LooksAtTheOriginFromAnAxisInEachPredefinedView)
 {
-    struct Case
+    const Numbers cases[] = {{0, 0, 100, 0, 0, -1, 0, 1, 0}, {0, -100, 0, 0, 1, 0, 0, 0, 1},
+                             {-100, 0, 0, 1, 0, 0, 0, 0, 1}, {0, 0, -100, 0, 0, 1, 0, 1, 0},
+                             {0, 100, 0, 0, -1, 0, 0, 0, 1}, {100, 0, 0, -1, 0, 0, 0, 0, 1}};
+    for (int32_t view = TARVEX_VIEW_TOP; view <= TARVEX_VIEW_RIGHT; ++view)
     {
-        int32_t View;
-        Vector Position;
-        Vector Up;
-    };
-    for (const Case& test : {Case{TARVEX_VIEW_TOP, {0, 0, 100}, {0, 1, 0}},
-                             {TARVEX_VIEW_FRONT, {0, -100, 0}, {0, 0, 1}},
-                             {TARVEX_VIEW_LEFT, {-100, 0, 0}, {0, 0, 1}},
-                             {TARVEX_VIEW_BOTTOM, {0, 0, -100}, {0, 1, 0}},
-                             {TARVEX_VIEW_BACK, {0, 100, 0}, {0, 0, 1}},
-                             {TARVEX_VIEW_RIGHT, {100, 0, 0}, {0, 0, 1}}})
-    {
-        SCOPED_TRACE(test.View);
-        EXPECT_EQ(Tarvex_Window_Camera_SetPredefinedView(Id, test.View), STATUS_OK);
-        const State got = Get();
-        ExpectNear(got.Position, test.Position);
-        ExpectNear(got.Up, test.Up);
-        ExpectNear(got.Direction, {-test.Position[0] / 100.0, -test.Position[1] / 100.0,
-                                   -test.Position[2] / 100.0});
+        EXPECT_EQ(Show(view), STATUS_OK);
+        EXPECT_THAT(Get(), Pointwise(DoubleNear(1e-9), cases[view])) << view;
     }
 }
 
 TEST_F(Camera, FramesTheSceneInAPredefinedViewAndWithAutoSize)
 {
-    const int32_t point = AddPoint(30, 40, 0);
-    EXPECT_EQ(Tarvex_Element_SetSize(Id, point, 10.0), STATUS_OK);
-    EXPECT_EQ(Tarvex_Window_Camera_SetPredefinedView(Id, TARVEX_VIEW_TOP), STATUS_OK);
-    const auto center = TakePicture(Id).Centre(IsLit);
-    EXPECT_NEAR(center[0], Pixels / 2.0, 2.0);
-    EXPECT_NEAR(center[1], Pixels / 2.0, 2.0);
-    const State framed = Get();
-    ExpectNear(framed.Position, {30, -40, framed.Position[2]}, 0.1);
-
-    EXPECT_EQ(SetDirection({0.6, 0, -0.8}, {0, 1, 0}), STATUS_OK);
-    EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 500, 500, 500), STATUS_OK);
+    Tarvex_Element_SetSize(Id, AddPoint(30, 40, 0), 10);
+    EXPECT_EQ(Show(TARVEX_VIEW_TOP), STATUS_OK);
+    EXPECT_THAT(TakePicture(Id).Centre(IsLit), testing::Each(testing::DoubleNear(100, 2)));
+    EXPECT_NEAR(Get()[0], 30, 0.1);
+    EXPECT_NEAR(Get()[1], -40, 0.1);
+    EXPECT_EQ(Turn({0.6, 0, -0.8, 0, 1, 0}), STATUS_OK);
+    MoveTo(500, 500, 500);
     EXPECT_EQ(CountLit(), 0) << "out of sight";
     EXPECT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
     EXPECT_GT(CountLit(), Pixels * Pixels / 10);
-    ExpectNear(Get().Direction, {0.6, 0, -0.8});
+    EXPECT_NEAR(Get()[3], 0.6, 1e-9) << "turned";
 }
 
 TEST_F(Camera, MovesWithoutTurning)
 {
-    EXPECT_EQ(SetDirection({1, 2, -2}, {0, 0, 1}), STATUS_OK);
-    const State before = Get();
-    EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 10, -20, 30), STATUS_OK);
-    const State after = Get();
-    ExpectNear(after.Position, {10, -20, 30});
-    ExpectNear(after.Direction, before.Direction);
-    ExpectNear(after.Up, before.Up);
+    EXPECT_EQ(Turn({1, 2, -2, 0, 0, 1}), STATUS_OK);
+    Numbers expected = Get();
+    MoveTo(10, -20, 30);
+    expected[0] = 10;
+    expected[1] = -20;
+    expected[2] = 30;
+    EXPECT_THAT(Get(), Pointwise(DoubleNear(1e-9), expected));
 }
 
-TEST_F(Camera, TurnsAroundItsFocalPoint)
+TEST_F(Camera, TurnsAroundItsFocalPointAndStraightensALeaningUpVector)
 {
-    LookDown();
-    EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 5, 6, 100), STATUS_OK); // looks at (5, 6, 0)
-    EXPECT_EQ(SetDirection({3, 0, 0}, {0, 0, 7}), STATUS_OK);
-    const State got = Get();
-    ExpectNear(got.Position, {-95, 6, 0});
-    ExpectNear(got.Direction, {1, 0, 0});
-    ExpectNear(got.Up, {0, 0, 1});
-}
-
-TEST_F(Camera, StraightensAnUpVectorThatLeans)
-{
-    EXPECT_EQ(SetDirection({0, 0, -5}, {0, 3, -3}), STATUS_OK);
-    ExpectNear(Get().Direction, {0, 0, -1});
-    ExpectNear(Get().Up, {0, 1, 0});
-    // Nearly parallel, with a squared cross product of 4e-12.
-    EXPECT_EQ(SetDirection({1, 0, 0}, {1, 0, 2e-6}), STATUS_OK);
-    ExpectNear(Get().Up, {0, 0, 1}, 1e-6);
-}
-
-TEST_F(Camera, RefusesVectorsWithoutDirectionAndThenStays)
-{
-    struct Case
+    const Numbers along = {-95, 6, 0, 1, 0, 0, 0, 0, 1};
+    const std::pair<Numbers, Numbers> cases[] = {
+        {{3, 0, 0, 0, 0, 7}, along},
+        {{1.1e-5, 0, 0, 0, 0, 1}, along},
+        {{1, 0, 0, 1, 0, 2e-6}, along}, // nearly parallel
+        {{0, 0, -5, 0, 3, -3}, {5, 6, 100, 0, 0, -1, 0, 1, 0}}};
+    for (const auto& [given, expected] : cases)
     {
-        Vector Direction;
-        Vector Up;
-        int32_t Status;
-    };
-    EXPECT_EQ(SetDirection({1, 1, 1}, {0, 0, 1}), STATUS_OK);
-    const State before = Get();
-    for (const Case& test : {Case{{0, 0, 0}, {0, 0, 1}, STATUS_ZERO_VECTOR},
-                             {{0.9e-5, 0, 0}, {0, 0, 1}, STATUS_ZERO_VECTOR},
-                             {{1, 0, 0}, {0, 0, 0}, STATUS_ZERO_VECTOR},
-                             {{1, 0, 0}, {2, 0, 0}, STATUS_PARALLEL_VECTORS},
-                             {{1, 0, 0}, {-2, 0, 0}, STATUS_PARALLEL_VECTORS},
-                             {{0, 1, 0}, {0, 1, 0.9e-6}, STATUS_PARALLEL_VECTORS}})
-    {
-        EXPECT_EQ(SetDirection(test.Direction, test.Up), test.Status);
-        EXPECT_EQ(Get(), before);
-    }
-    EXPECT_EQ(SetDirection({1.1e-5, 0, 0}, {0, 0, 1}), STATUS_OK);
-}
-
-TEST_F(Camera, RefusesUnknownViewsAndZoomsAndThenStays)
-{
-    EXPECT_EQ(SetDirection({1, 1, 1}, {0, 0, 1}), STATUS_OK);
-    const State before = Get();
-    for (const int32_t view : {-1, 6, std::numeric_limits<int32_t>::min()})
-    {
-        EXPECT_EQ(Tarvex_Window_Camera_SetPredefinedView(Id, view), STATUS_OUT_OF_RANGE) << view;
-    }
-    for (const double factor : {0.0, -2.0, 0.9e-6})
-    {
-        EXPECT_EQ(Tarvex_Window_Camera_SetZoom(Id, factor), STATUS_OUT_OF_RANGE) << factor;
-    }
-    EXPECT_EQ(Get(), before);
-    EXPECT_EQ(Tarvex_Window_Camera_SetZoom(Id, 1e-6), STATUS_OK);
-}
-
-TEST_F(Camera, ZoomsRelativelyInBothProjections)
-{
-    Tarvex_Element_SetSize(Id, AddPoint(0, 0, 0), 0.5);
-    for (const uint8_t parallel : {0, 1})
-    {
-        SCOPED_TRACE(int{parallel});
         LookDown();
-        EXPECT_EQ(Tarvex_Window_Camera_EnableParallelProjection(Id, parallel), STATUS_OK);
-        const State before = Get();
-        const double start = parallel ? 0.2 : 4.0; // for a sphere of some ten pixels
-        EXPECT_EQ(Tarvex_Window_Camera_SetZoom(Id, start), STATUS_OK);
-        const int small = CountLit();
-        EXPECT_GT(small, 100);
-        EXPECT_EQ(Tarvex_Window_Camera_SetZoom(Id, 1.5), STATUS_OK);
-        EXPECT_EQ(Tarvex_Window_Camera_SetZoom(Id, 2.0), STATUS_OK);
-        EXPECT_NEAR(CountLit(), 9 * small, small) << "factors multiply";
-        EXPECT_EQ(Get(), before) << "the camera itself stays";
-        EXPECT_EQ(Tarvex_Window_Camera_SetZoom(Id, 1.0 / (3.0 * start)), STATUS_OK);
+        MoveTo(5, 6, 100); // looks at (5, 6, 0)
+        EXPECT_EQ(Turn(given), STATUS_OK);
+        EXPECT_THAT(Get(), Pointwise(DoubleNear(1e-6), expected));
     }
 }
 
-TEST_F(Camera, DrawsTheSameFromAnyDistanceInParallelProjectionOnly)
+TEST_F(Camera, StaysWhenItRefusesVectorsViewsAndZooms)
 {
-    Tarvex_Element_SetSize(Id, AddPoint(0, 0, 0), 3.0);
+    EXPECT_EQ(Turn({1, 1, 1, 0, 0, 1}), STATUS_OK);
+    const Numbers before = Get();
+    EXPECT_EQ(Turn({0, 0, 0, 0, 0, 1}), STATUS_ZERO_VECTOR);
+    EXPECT_EQ(Turn({0.9e-5, 0, 0, 0, 0, 1}), STATUS_ZERO_VECTOR);
+    EXPECT_EQ(Turn({1, 0, 0, 0, 0, 0}), STATUS_ZERO_VECTOR);
+    EXPECT_EQ(Turn({1, 0, 0, 2, 0, 0}), STATUS_PARALLEL_VECTORS);
+    EXPECT_EQ(Turn({1, 0, 0, -2, 0, 0}), STATUS_PARALLEL_VECTORS);
+    EXPECT_EQ(Turn({0, 1, 0, 0, 1, 0.9e-6}), STATUS_PARALLEL_VECTORS);
+    EXPECT_EQ(Show(-1), STATUS_OUT_OF_RANGE);
+    EXPECT_EQ(Show(6), STATUS_OUT_OF_RANGE);
+    EXPECT_EQ(Zoom(-2.0), STATUS_OUT_OF_RANGE);
+    EXPECT_EQ(Zoom(0.9e-6), STATUS_OUT_OF_RANGE);
+    EXPECT_EQ(Get(), before);
+    EXPECT_EQ(Zoom(1e-6), STATUS_OK);
+}
+
+TEST_F(Camera, ZoomsRelativelyAndDistanceMattersInPerspectiveOnly)
+{
+    Tarvex_Element_SetSize(Id, AddPoint(0, 0, 0), 2);
     for (const uint8_t parallel : {0, 255, 0})
     {
         LookDown();
         EXPECT_EQ(Tarvex_Window_Camera_EnableParallelProjection(Id, parallel), STATUS_OK);
+        Zoom(parallel ? 0.1 : 1.0); // some ten pixels
         const int before = CountLit();
-        EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 0, 0, 50), STATUS_OK);
+        EXPECT_GT(before, 50);
+        const Numbers camera = Get();
+        Zoom(1.5);
+        Zoom(2.0);
+        EXPECT_NEAR(CountLit(), 9 * before, before) << "factors multiply, " << int{parallel};
+        EXPECT_EQ(Get(), camera) << "the camera itself stays";
+        Zoom(1 / 3.0);
+        MoveTo(0, 0, 50);
         EXPECT_NEAR(CountLit(), (parallel ? 1 : 4) * before, before / 5.0) << int{parallel};
     }
 }

@@ -12,70 +12,66 @@
 #include <vtkPolyData.h>
 #include <vtkPolyDataMapper.h>
 
-#include <array>
-#include <vector>
-
 using HostPoint = std::array<double, 3>;
 
 class ShapeView : public ViewFixture
 {
 protected:
-    vtkActor* NewestActor() const
+    void AddNew(const Export& function, const Numbers& given)
     {
-        vtkActor* actor = nullptr;
-        const auto find = [&](const CWindow& view)
+        Element = Add(function, given);
+        const auto find = [this](const CWindow& view)
         {
-            actor = view.GetRenderer()->GetActors()->GetLastActor();
+            Actor = view.GetRenderer()->GetActors()->GetLastActor();
             return STATUS_OK;
         };
         CWindowManager::Instance->Call<CWindow>(Id, find);
-        return actor;
     }
-
+    void Set(const Export& function, const Numbers& given) const
+    {
+        EXPECT_EQ(Call(function, Element, given), STATUS_OK);
+    }
     // Neither drawn nor counted in the bounds of the scene.
     bool IsHidden() const
     {
-        EXPECT_EQ(NewestActor()->GetVisibility(), NewestActor()->GetUseBounds());
-        return !NewestActor()->GetVisibility();
+        EXPECT_EQ(Actor->GetVisibility(), Actor->GetUseBounds());
+        return !Actor->GetVisibility();
     }
-
     // The points of the first cell along its path, in host coordinates. The bounds that the camera
     // goes by are those of these points.
     std::vector<HostPoint> Outline() const
     {
-        vtkActor* actor = NewestActor();
-        auto* mapper = vtkPolyDataMapper::SafeDownCast(actor->GetMapper());
+        auto* mapper = vtkPolyDataMapper::SafeDownCast(Actor->GetMapper());
         mapper->Update();
         vtkPoints* points = mapper->GetInput()->GetCell(0)->GetPoints();
         std::vector<HostPoint> outline;
         vtkBoundingBox box;
         for (vtkIdType point = 0; point < points->GetNumberOfPoints(); ++point)
         {
-            double world[4] = {0.0, 0.0, 0.0, 1.0};
+            double world[4] = {0, 0, 0, 1};
             points->GetPoint(point, world);
-            actor->GetMatrix()->MultiplyPoint(world, world);
+            Actor->GetMatrix()->MultiplyPoint(world, world);
             box.AddPoint(world);
             outline.push_back({world[0], -world[1], world[2]});
         }
-        const vtkBoundingBox bounds(actor->GetBounds());
-        box.Inflate(1e-5);
-        EXPECT_TRUE(box.Contains(bounds));
-        box.Inflate(-2e-5);
-        EXPECT_TRUE(!box.IsValid() || bounds.Contains(box));
+        double bounds[6];
+        box.GetBounds(bounds);
+        EXPECT_THAT(Numbers(Actor->GetBounds(), Actor->GetBounds() + 6),
+                    testing::Pointwise(testing::DoubleNear(1e-5), bounds));
         return outline;
     }
-
     void ExpectOutline(const std::vector<HostPoint>& expected) const
     {
         EXPECT_FALSE(IsHidden());
         const std::vector<HostPoint> outline = Outline();
         ASSERT_EQ(outline.size(), expected.size());
-        for (size_t at = 0; at < 3 * expected.size(); ++at)
+        for (size_t at = 0; at < expected.size(); ++at)
         {
-            EXPECT_NEAR(outline[at / 3][at % 3], expected[at / 3][at % 3], 1e-5)
-                << "point " << at / 3 << ", axis " << at % 3;
+            EXPECT_THAT(outline[at], testing::Pointwise(testing::DoubleNear(1e-5), expected[at]))
+                << "point " << at;
         }
     }
 
     int32_t Element = TARVEX_NONE;
+    vtkActor* Actor = nullptr;
 };
