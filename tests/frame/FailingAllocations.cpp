@@ -11,30 +11,15 @@ namespace
 int untilFailure = 0; // 0: none is to fail
 bool failed = false;
 
-bool IsToFail(const void* caller)
+void* TakeOrNull(std::size_t size, const void* caller)
 {
     const auto* code = static_cast<const char*>(caller);
     if (untilFailure == 0 || code < &__executable_start || code >= &etext || --untilFailure > 0)
     {
-        return false;
+        return std::malloc(size > 0 ? size : 1);
     }
     failed = true;
-    return true;
-}
-
-void* TakeOrNull(std::size_t size, const void* caller)
-{
-    return IsToFail(caller) ? nullptr : std::malloc(size > 0 ? size : 1);
-}
-
-void* Take(std::size_t size, const void* caller)
-{
-    void* memory = TakeOrNull(size, caller);
-    if (!memory)
-    {
-        throw std::bad_alloc();
-    }
-    return memory;
+    return nullptr;
 }
 } // namespace
 
@@ -50,23 +35,19 @@ bool StopFailing()
     return failed;
 }
 
-// All forms, so that none of a sanitizer's is paired with one of these.
 void* operator new(std::size_t size)
 {
-    return Take(size, __builtin_return_address(0));
+    void* memory = TakeOrNull(size, __builtin_return_address(0));
+    if (!memory)
+    {
+        throw std::bad_alloc();
+    }
+    return memory;
 }
 
-void* operator new[](std::size_t size)
-{
-    return Take(size, __builtin_return_address(0));
-}
-
+// These forms too, so that none of a sanitizer's is paired with one of these. Those for arrays
+// are pairs of their own.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
-{
-    return TakeOrNull(size, __builtin_return_address(0));
-}
-
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
 {
     return TakeOrNull(size, __builtin_return_address(0));
 }
@@ -76,27 +57,7 @@ void operator delete(void* memory) noexcept
     std::free(memory);
 }
 
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
-
 void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete[](void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, const std::nothrow_t&) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete[](void* memory, const std::nothrow_t&) noexcept
 {
     std::free(memory);
 }

@@ -1,67 +1,62 @@
 #include "SurfaceScene.h"
 
-#include "Tarvex.h"
-
 #include <algorithm>
 #include <cmath>
 #include <random>
 
-#include <vtkActorCollection.h>
-#include <vtkCamera.h>
 #include <vtkUnsignedCharArray.h>
+
+void Samples::Place(int pitchX, int pitchY)
+{
+    for (int i = 0; i < Grid.Columns * Grid.Rows; ++i)
+    {
+        X.push_back(static_cast<int16_t>(i % Grid.Columns * pitchX));
+        Y.push_back(static_cast<int16_t>(i / Grid.Columns * pitchY));
+    }
+}
 
 Samples MakeFlat(int32_t columns, int32_t rows)
 {
-    Samples samples;
-    samples.Columns = columns;
-    samples.Rows = rows;
-    const auto count = static_cast<size_t>(columns) * static_cast<size_t>(rows);
-    samples.Heights.assign(count, 0);
-    samples.Intensities.assign(count, 0);
-    return samples;
+    const auto count = static_cast<size_t>(columns * rows);
+    return {.Grid = {columns, rows},
+            .Heights = std::vector<int16_t>(count, 0),
+            .Intensities = std::vector<uint8_t>(count, 0)};
 }
 
 Samples MakeHills(int32_t columns, int32_t rows)
 {
     Samples samples = MakeFlat(columns, rows);
-    for (int32_t row = 0; row < rows; ++row)
+    for (int32_t i = 0; i < columns * rows; ++i)
     {
-        for (int32_t column = 0; column < columns; ++column)
-        {
-            const double x = 7.0 * column / columns;
-            const double y = 5.0 * row / columns;
-            samples.At(column, row) = static_cast<int16_t>(3000.0 * std::sin(x) * std::cos(y) +
-                                                           1000.0 * std::sin(3.1 * x + 5.3 * y));
-            samples.Intensities[static_cast<size_t>(row * columns + column)] =
-                static_cast<uint8_t>(127.5 + 127.5 * std::sin(2.0 * x) * std::sin(3.0 * y));
-        }
+        const double x = 7.0 * (i % columns) / columns;
+        const double y = 5.0 * (i / columns) / columns; // NOLINT(bugprone-integer-division)
+        const auto at = static_cast<size_t>(i);
+        samples.Heights[at] = static_cast<int16_t>(3000.0 * std::sin(x) * std::cos(y) +
+                                                   1000.0 * std::sin(3.1 * x + 5.3 * y));
+        samples.Intensities[at] =
+            static_cast<uint8_t>(127.5 + 127.5 * std::sin(2.0 * x) * std::sin(3.0 * y));
     }
-    samples.Scale[0] = samples.Scale[1] = 100.0 / columns;
-    samples.Scale[2] = 0.001;
+    samples.Grid.Scale = {100.0 / columns, 100.0 / columns, 0.001};
     return samples;
 }
 
 void PunchHoles(Samples& samples)
 {
     std::mt19937 random(7);
-    const auto pick = [&](int32_t end)
-    { return static_cast<int32_t>(random() % static_cast<uint32_t>(end)); };
     for (int hole = 0; hole < 40; ++hole)
     {
-        const int32_t centreX = pick(samples.Columns);
-        const int32_t centreY = pick(samples.Rows);
+        const auto x = static_cast<int32_t>(random() % 200);
+        const auto y = static_cast<int32_t>(random() % 150);
         const int32_t radius = hole % 10;
-        for (int32_t row = std::max(0, centreY - radius);
-             row <= std::min(samples.Rows - 1, centreY + radius); ++row)
+        for (int32_t i = 0; i < samples.Grid.Columns * samples.Grid.Rows; ++i)
         {
-            for (int32_t column = std::max(0, centreX - radius);
-                 column <= std::min(samples.Columns - 1, centreX + radius); ++column)
+            const int32_t column = i % samples.Grid.Columns;
+            const int32_t row = i / samples.Grid.Columns;
+            // Every third hole is a grating, which leaves isolated samples.
+            if (std::abs(column - x) <= radius && std::abs(row - y) <= radius &&
+                (hole % 3 != 0 || (row + column) % 2 == 0 || column % 3 == 0))
             {
-                // Every third hole is a grating, which leaves isolated samples.
-                if (hole % 3 != 0 || (row + column) % 2 == 0 || column % 3 == 0)
-                {
-                    samples.At(column, row) = Missing;
-                }
+                samples.At(column, row) = Missing;
             }
         }
     }
@@ -80,11 +75,6 @@ SurfaceScene::SurfaceScene()
     Defaults.SpecularPower = 0.0;
 }
 
-SurfaceScene::~SurfaceScene()
-{
-    Renderer->RemoveAllViewProps();
-}
-
 ElementSite SurfaceScene::Site()
 {
     ElementSite site;
@@ -97,47 +87,25 @@ ElementSite SurfaceScene::Site()
     return site;
 }
 
-int32_t SurfaceScene::Add(CElement_SurfaceUniform& surface, const Samples& samples,
-                          bool fullCellsOnly, bool withIntensities)
-{
-    int32_t status = surface.Initialize(
-        Site(), samples.Heights.data(), withIntensities ? samples.Intensities.data() : nullptr,
-        samples.Columns, samples.Rows, samples.Scale[0], samples.Scale[1], samples.Scale[2],
-        samples.Offset[0], samples.Offset[1], samples.Offset[2], fullCellsOnly);
-    if (status == STATUS_OK)
-    {
-        status = surface.BuildPipeline();
-    }
-    return status == STATUS_OK ? surface.Show(true) : status;
-}
-
 LiteralInput SurfaceScene::Literal(const Samples& samples) const
 {
     LiteralInput input;
     input.Heights = samples.Heights.data();
-    input.Columns = samples.Columns;
-    input.Rows = samples.Rows;
-    std::copy_n(samples.Scale, 3, input.Scale);
-    std::copy_n(samples.Offset, 3, input.Offset);
-    input.Palette = Defaults.Palette;
+    input.Columns = samples.Grid.Columns;
+    input.Rows = samples.Grid.Rows;
+    std::copy_n(samples.Grid.Scale.begin(), 3, input.Scale);
+    std::copy_n(samples.Grid.Offset.begin(), 3, input.Offset);
     Renderer->GetBackground(input.Background);
     input.ShiftAndScale = false;
-
-    int16_t lowest = 32767;
-    int16_t highest = Missing;
+    int lowest = 32767;
     for (const int16_t height : samples.Heights)
     {
-        lowest = height == Missing ? lowest : std::min(lowest, height);
-        highest = std::max(highest, height);
+        lowest = height == Missing ? lowest : std::min<int>(lowest, height);
     }
-    input.Range[0] = lowest * samples.Scale[2] + samples.Offset[2];
-    input.Range[1] = highest * samples.Scale[2] + samples.Offset[2];
+    const int highest = *std::max_element(samples.Heights.begin(), samples.Heights.end());
+    input.Range[0] = samples.Grid.Place(2, lowest);
+    input.Range[1] = samples.Grid.Place(2, highest);
     return input;
-}
-
-vtkActor* SurfaceScene::GetActor() const
-{
-    return Renderer->GetActors()->GetLastActor();
 }
 
 Picture SurfaceScene::Show(vtkActor* actor)
@@ -155,22 +123,12 @@ Picture SurfaceScene::Render()
     picture.Width = Window->GetSize()[0];
     picture.Height = Window->GetSize()[1];
     vtkNew<vtkUnsignedCharArray> pixels;
-    Window->GetRGBACharPixelData(0, 0, picture.Width - 1, picture.Height - 1, 1, pixels);
-    for (int y = picture.Height - 1; y >= 0; --y)
+    Window->GetPixelData(0, 0, picture.Width - 1, picture.Height - 1, 1, pixels);
+    // The lowest row comes first.
+    for (vtkIdType y = picture.Height - 1; y >= 0; --y)
     {
-        for (int x = 0; x < picture.Width; ++x)
-        {
-            const unsigned char* pixel = pixels->GetPointer(4 * (vtkIdType{y} * picture.Width + x));
-            picture.Pixels.insert(picture.Pixels.end(), pixel, pixel + 3);
-        }
+        const unsigned char* row = pixels->GetPointer(3 * y * picture.Width);
+        picture.Pixels.insert(picture.Pixels.end(), row, row + 3 * vtkIdType{picture.Width});
     }
     return picture;
-}
-
-int32_t SetValue(CElement_SurfaceUniform& surface, const Samples& samples, bool withIntensities)
-{
-    return surface.SetValue(samples.Heights.data(),
-                            withIntensities ? samples.Intensities.data() : nullptr, samples.Columns,
-                            samples.Rows, samples.Scale[0], samples.Scale[1], samples.Scale[2],
-                            samples.Offset[0], samples.Offset[1], samples.Offset[2]);
 }

@@ -2,36 +2,40 @@
 #pragma once
 
 #include "LiteralSurface.h"
+#include "Tarvex.h"
+#include "measurement/CElement_SurfaceNonUniform.h"
 #include "measurement/CElement_SurfaceUniform.h"
 #include "support/Picture.h"
 
 #include "frame/ElementDefaults.h"
 
-#include <memory>
+#include <tuple>
 #include <vector>
 
+#include <vtkActorCollection.h>
 #include <vtkNew.h>
 #include <vtkRenderWindow.h>
 #include <vtkRenderer.h>
 #include <vtkTransform.h>
 
-constexpr int16_t Missing = -32768;
+constexpr int16_t Missing = InvalidHeight;
 
 // A height map that a host could give.
 struct Samples
 {
-    int32_t Columns = 0;
-    int32_t Rows = 0;
+    SurfaceGrid Grid;
     std::vector<int16_t> Heights;
     std::vector<uint8_t> Intensities;
-    double Scale[3] = {1.0, 1.0, 1.0};
-    double Offset[3] = {0.0, 0.0, 0.0};
+    // For surfaces with free positions only.
+    std::vector<int16_t> X = {};
+    std::vector<int16_t> Y = {};
 
     int16_t& At(int32_t column, int32_t row)
     {
-        return Heights[static_cast<size_t>(row) * static_cast<size_t>(Columns) +
-                       static_cast<size_t>(column)];
+        return Heights[static_cast<size_t>(row * Grid.Columns + column)];
     }
+    // Sets X and Y to a grid of the given pitch in raw units.
+    void Place(int pitchX, int pitchY);
 };
 
 // All samples at height 0, intensity 0.
@@ -41,21 +45,53 @@ Samples MakeHills(int32_t columns, int32_t rows);
 // Takes holes of all sizes, single samples among them, out of the samples.
 void PunchHoles(Samples& samples);
 
+// What a host gives to both functions of a surface, in their order.
+template <class Surface>
+auto Arguments(const Samples& samples)
+{
+    const auto& [columns, rows, scale, offset] = samples.Grid;
+    const auto both =
+        std::make_tuple(samples.Heights.data(), samples.Intensities.data(), columns, rows, scale[0],
+                        scale[1], scale[2], offset[0], offset[1], offset[2]);
+    if constexpr (std::is_same_v<Surface, CElement_SurfaceUniform>)
+    {
+        return both;
+    }
+    else
+    {
+        return std::tuple_cat(std::make_tuple(samples.X.data(), samples.Y.data()), both);
+    }
+}
+
+template <class Surface>
+int32_t SetValue(Surface& surface, const Samples& samples)
+{
+    return std::apply([&](auto... values) { return surface.SetValue(values...); },
+                      Arguments<Surface>(samples));
+}
+
 class SurfaceScene
 {
 public:
     SurfaceScene();
-    ~SurfaceScene();
+    ~SurfaceScene() { Renderer->RemoveAllViewProps(); }
 
     ElementSite Site();
     // Adds a surface as a view does. The status of the first step that fails.
-    int32_t Add(CElement_SurfaceUniform& surface, const Samples& samples, bool fullCellsOnly = true,
-                bool withIntensities = false);
+    template <class Surface>
+    int32_t Add(Surface& surface, const Samples& samples, bool fullCellsOnly = true)
+    {
+        const int32_t status = std::apply(
+            [&](auto... values) { return surface.Initialize(Site(), values..., fullCellsOnly); },
+            Arguments<Surface>(samples));
+        const int32_t built = status == STATUS_OK ? surface.BuildPipeline() : status;
+        return built == STATUS_OK ? surface.Show(true) : built;
+    }
     // The stock picture of the same samples.
     LiteralInput Literal(const Samples& samples) const;
 
     // The only actor; null if there is none.
-    vtkActor* GetActor() const;
+    vtkActor* GetActor() const { return Renderer->GetActors()->GetLastActor(); }
     // The scene with the actor alone, seen by the present camera.
     Picture Show(vtkActor* actor);
     Picture Render();
@@ -65,6 +101,3 @@ public:
     vtkNew<vtkTransform> Mirror;
     ElementDefaults Defaults;
 };
-
-int32_t SetValue(CElement_SurfaceUniform& surface, const Samples& samples,
-                 bool withIntensities = false);

@@ -4,11 +4,7 @@
 #include "frame/CWindowManager.h"
 #include "support/TestHost.h"
 
-#include <functional>
-#include <memory>
-
 #include <vtkCallbackCommand.h>
-#include <vtkInteractorObserver.h>
 #include <vtkNew.h>
 
 template <class Action>
@@ -31,42 +27,23 @@ inline NativeWindow NativeOf(int32_t windowId)
     return native;
 }
 
-// Calls an action at a VTK event, as long as it lives.
-class Observer
-{
-public:
-    Observer(vtkObject* subject, unsigned long event, std::function<void()> action)
-        : Action(std::move(action))
-    {
-        Command->SetClientData(this);
-        Command->SetCallback([](vtkObject*, unsigned long, void* self, void*)
-                             { static_cast<Observer*>(self)->Action(); });
-        subject->AddObserver(event, Command, 1.0F);
-    }
-    ~Observer() { Command->SetCallback(nullptr); }
-    Observer(const Observer&) = delete;
-    Observer& operator=(const Observer&) = delete;
-
-private:
-    std::function<void()> Action;
-    vtkNew<vtkCallbackCommand> Command;
-};
-
 class RenderCounter
 {
 public:
     explicit RenderCounter(int32_t windowId)
     {
-        Inside(windowId,
-               [&](CWindow& view)
-               {
-                   Counting = std::make_unique<Observer>(view.GetRenderWindow(),
-                                                         vtkCommand::EndEvent, [this] { ++Count; });
-               });
+        Command->SetClientData(&Count);
+        Command->SetCallback([](vtkObject*, unsigned long, void* count, void*)
+                             { ++*static_cast<int*>(count); });
+        Inside(windowId, [&](CWindow& view)
+               { view.GetRenderWindow()->AddObserver(vtkCommand::EndEvent, Command); });
     }
+    ~RenderCounter() { Command->SetCallback(nullptr); }
+    RenderCounter(const RenderCounter&) = delete;
+    RenderCounter& operator=(const RenderCounter&) = delete;
 
     int Count = 0;
 
 private:
-    std::unique_ptr<Observer> Counting;
+    vtkNew<vtkCallbackCommand> Command;
 };

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 Picture::Color Picture::At(int x, int y) const
 {
     const size_t at =
@@ -16,71 +14,51 @@ Picture::Color Picture::At(int x, int y) const
 int Picture::Count(const std::function<bool(const Color&)>& matches) const
 {
     int count = 0;
-    for (int y = 0; y < Height; ++y)
+    for (int at = 0; at < Width * Height; ++at)
     {
-        for (int x = 0; x < Width; ++x)
-        {
-            count += matches(At(x, y)) ? 1 : 0;
-        }
+        count += matches(At(at % Width, at / Width)) ? 1 : 0;
     }
     return count;
 }
 
-int Picture::CountDifferences(const Picture& other, int tolerance) const
+int Picture::CountDifferences(const Picture& other) const
 {
     if (Width != other.Width || Height != other.Height)
     {
         return Width * Height;
     }
     int count = 0;
-    for (size_t pixel = 0; pixel < Pixels.size(); pixel += 3)
+    for (int at = 0; at < Width * Height; ++at)
     {
-        bool differs = false;
-        for (size_t channel = pixel; channel < pixel + 3; ++channel)
-        {
-            differs = differs || std::abs(Pixels[channel] - other.Pixels[channel]) > tolerance;
-        }
-        count += differs ? 1 : 0;
+        count += At(at % Width, at / Width) != other.At(at % Width, at / Width) ? 1 : 0;
     }
     return count;
 }
 
 std::array<double, 2> Picture::Centre(const std::function<bool(const Color&)>& matches) const
 {
-    double sumX = 0.0;
-    double sumY = 0.0;
-    int count = 0;
-    for (int y = 0; y < Height; ++y)
+    std::array<double, 2> sum = {};
+    for (int at = 0; at < Width * Height; ++at)
     {
-        for (int x = 0; x < Width; ++x)
+        if (matches(At(at % Width, at / Width)))
         {
-            if (matches(At(x, y)))
-            {
-                sumX += x;
-                sumY += y;
-                ++count;
-            }
+            sum[0] += at % Width;
+            sum[1] += at / Width; // NOLINT: the row
         }
     }
-    if (count == 0)
-    {
-        return {-1.0, -1.0};
-    }
-    return {sumX / count, sumY / count};
+    const int count = Count(matches);
+    return count > 0 ? std::array{sum[0] / count, sum[1] / count} : std::array{-1.0, -1.0};
 }
 
 Picture TakePicture(int32_t windowId)
 {
     Picture picture;
-    int32_t width = 0;
-    int32_t height = 0;
-    EXPECT_EQ(TarvexExt_Window_CopyImage(windowId, nullptr, 0, &width, &height), STATUS_OK);
-    picture.Width = width;
-    picture.Height = height;
-    picture.Pixels.resize(size_t{3} * static_cast<size_t>(width) * static_cast<size_t>(height));
-    EXPECT_EQ(TarvexExt_Window_CopyImage(windowId, picture.Pixels.data(),
-                                         static_cast<int32_t>(picture.Pixels.size()), &width,
-                                         &height),
+    EXPECT_EQ(TarvexExt_Window_CopyImage(windowId, nullptr, 0, &picture.Width, &picture.Height),
+              STATUS_OK);
+    const int32_t size = 3 * picture.Width * picture.Height;
+    picture.Pixels.resize(static_cast<size_t>(size));
+    EXPECT_EQ(TarvexExt_Window_CopyImage(windowId, picture.Pixels.data(), size, &picture.Width,
+                                         &picture.Height),
               STATUS_OK);
     return picture;
 }

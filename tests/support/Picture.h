@@ -13,8 +13,8 @@ struct Picture
     // From the upper left corner.
     Color At(int x, int y) const;
     int Count(const std::function<bool(const Color&)>& matches) const;
-    // Pixels that differ from `other` by more than `tolerance` in a channel; all, for other sizes.
-    int CountDifferences(const Picture& other, int tolerance = 0) const;
+    // Pixels that differ from those of `other`; all, for another size.
+    int CountDifferences(const Picture& other) const;
     // Centre of the matching pixels; -1, -1 when there are none.
     std::array<double, 2> Centre(const std::function<bool(const Color&)>& matches) const;
 

@@ -12,27 +12,22 @@ extern std::vector<std::string> testArguments;
 int CountDescriptors();
 long ResidentKilobytes();
 
-// Starts a program; standard output and error stay those of this process.
-pid_t StartProgram(const std::vector<std::string>& command);
-// How the process ended, "exit 0" or for example "signal 11"; it is killed after `seconds`.
-std::string WaitForEnd(pid_t process, int seconds);
-
 // Runs each test of a suite, named DISABLED_ so that nobody else does, in a fresh process of this
 // program up to its normal end, static destructors and all. Fails unless all end with exit 0.
-void RunInProcesses(const std::string& suite, int seconds = 120);
+void RunInProcesses(const std::string& suite);
 
 // An X server of the test's own, which becomes $DISPLAY until the end.
 class TestServer
 {
 public:
-    explicit TestServer(const std::vector<std::string>& options = {});
+    explicit TestServer(bool withOpenGL = true);
     ~TestServer();
     TestServer(const TestServer&) = delete;
     TestServer& operator=(const TestServer&) = delete;
 
     void Kill();
 
+private:
     const std::string DisplayBefore;
-    std::string Display;
     pid_t Server = -1;
 };

@@ -7,13 +7,14 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 
+#include <stdexcept>
+
 TestHost::TestHost(int width, int height)
 {
     Connection = XOpenDisplay(nullptr);
     if (!Connection)
     {
-        ADD_FAILURE() << "the tests need an X server";
-        return;
+        throw std::runtime_error("the tests need an X server");
     }
     Native = XCreateSimpleWindow(Connection, DefaultRootWindow(Connection), 10, 10,
                                  static_cast<unsigned>(width), static_cast<unsigned>(height), 0, 0,
@@ -37,19 +38,12 @@ TestHost::~TestHost()
 
 std::vector<NativeWindow> TestHost::Children() const
 {
-    Window root = 0;
-    Window parent = 0;
+    Window others[2];
     Window* children = nullptr;
     unsigned count = 0;
-    if (!XQueryTree(Connection, Native, &root, &parent, &children, &count))
-    {
-        return {};
-    }
+    XQueryTree(Connection, Native, &others[0], &others[1], &children, &count);
     std::vector<NativeWindow> result(children, children + count);
-    if (children)
-    {
-        XFree(children);
-    }
+    XFree(children);
     return result;
 }
 
@@ -62,27 +56,21 @@ std::array<int, 4> TestHost::Placement(NativeWindow window) const
 
 Picture TestHost::TakeScreen(NativeWindow window) const
 {
-    XWindowAttributes attributes = {};
-    XGetWindowAttributes(Connection, window, &attributes);
-    XImage* image = XGetImage(Connection, window, 0, 0, static_cast<unsigned>(attributes.width),
-                              static_cast<unsigned>(attributes.height), AllPlanes, ZPixmap);
     Picture picture;
+    picture.Width = Placement(window)[2];
+    picture.Height = Placement(window)[3];
+    XImage* image = XGetImage(Connection, window, 0, 0, static_cast<unsigned>(picture.Width),
+                              static_cast<unsigned>(picture.Height), AllPlanes, ZPixmap);
     if (!image)
     {
-        ADD_FAILURE() << "the window is not on the screen";
-        return picture;
+        throw std::runtime_error("the window is not on the screen");
     }
-    picture.Width = image->width;
-    picture.Height = image->height;
-    for (int y = 0; y < image->height; ++y)
+    for (int at = 0; at < picture.Width * picture.Height; ++at)
     {
-        for (int x = 0; x < image->width; ++x)
+        const unsigned long pixel = XGetPixel(image, at % picture.Width, at / picture.Width);
+        for (const int shift : {16, 8, 0})
         {
-            const unsigned long pixel = XGetPixel(image, x, y);
-            for (const int shift : {16, 8, 0})
-            {
-                picture.Pixels.push_back(static_cast<uint8_t>(pixel >> shift & 255));
-            }
+            picture.Pixels.push_back(static_cast<uint8_t>(pixel >> shift & 255));
         }
     }
     XDestroyImage(image);
@@ -108,12 +96,10 @@ void TestHost::CloseConnection()
 
 void TestHost::MoveMouse(NativeWindow window, int x, int y)
 {
-    int rootX = 0;
-    int rootY = 0;
+    const int screen = DefaultScreen(Connection);
     Window child = 0;
-    XTranslateCoordinates(Connection, window, DefaultRootWindow(Connection), x, y, &rootX, &rootY,
-                          &child);
-    XTestFakeMotionEvent(Connection, DefaultScreen(Connection), rootX, rootY, CurrentTime);
+    XTranslateCoordinates(Connection, window, RootWindow(Connection, screen), x, y, &x, &y, &child);
+    XTestFakeMotionEvent(Connection, screen, x, y, CurrentTime);
     XSync(Connection, False);
 }
 
@@ -129,22 +115,10 @@ void TestHost::Release(unsigned button)
     XSync(Connection, False);
 }
 
-namespace
+void TestHost::TypeKey(const char* name)
 {
-void SendKey(Display* connection, const char* name, Bool down)
-{
-    const KeyCode code = XKeysymToKeycode(connection, XStringToKeysym(name));
-    XTestFakeKeyEvent(connection, code, down, CurrentTime);
-    XSync(connection, False);
-}
-} // namespace
-
-void TestHost::PressKey(const char* name)
-{
-    SendKey(Connection, name, True);
-}
-
-void TestHost::ReleaseKey(const char* name)
-{
-    SendKey(Connection, name, False);
+    const KeyCode code = XKeysymToKeycode(Connection, XStringToKeysym(name));
+    XTestFakeKeyEvent(Connection, code, True, CurrentTime);
+    XTestFakeKeyEvent(Connection, code, False, CurrentTime);
+    XSync(Connection, False);
 }

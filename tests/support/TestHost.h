@@ -38,9 +38,8 @@ public:
     void Press(unsigned button);
     void Release(unsigned button);
     void Drag(NativeWindow window, unsigned button, int x0, int y0, int x1, int y1, int steps = 5);
-    // A key by its name, "q" or "Shift_L".
-    void PressKey(const char* name);
-    void ReleaseKey(const char* name);
+    // A key by its name, "q" or "Escape", down and up.
+    void TypeKey(const char* name);
 
     _XDisplay* Connection = nullptr;
     NativeWindow Native = 0;

@@ -26,13 +26,20 @@ protected:
     vtkScalarsToColors* BarTable() const
     {
         vtkScalarsToColors* table = nullptr;
-        CWindowManager::Instance->Call<CWindow>(Id,
-                                                [&](const CWindow& view)
-                                                {
-                                                    table = view.GetScalarBar()->GetLookupTable();
-                                                    return STATUS_OK;
-                                                });
+        const auto read = [&](const CWindow& view)
+        {
+            table = view.GetScalarBar()->GetLookupTable();
+            return STATUS_OK;
+        };
+        EXPECT_EQ(CWindowManager::Instance->Call<CWindow>(Id, read), STATUS_OK);
         return table;
+    }
+
+    int IsShown() const
+    {
+        uint8_t shown = 7;
+        const int32_t status = Tarvex_Window_ScalarBar_IsShown(Id, &shown);
+        return status == STATUS_OK ? shown : status;
     }
 
     int32_t Surface = TARVEX_NONE;
@@ -51,51 +58,55 @@ TEST_F(ScalarBarTable, IsTheNewOneAfterSomeCallsOnly)
     {
         const char* Name;
         bool Follows;
-        int32_t Status;
         std::function<int32_t()> Make;
     } cases[] = {
-        {"palette", true, STATUS_OK,
-         [&] { return Tarvex_Element_SetPalette_SurfaceUniform(Id, Surface, 2); }},
-        {"transparency", false, STATUS_OK,
-         [&] { return Tarvex_Element_SetTransparency(Id, Surface, 0.5); }},
-        {"get palette", false, STATUS_OK,
-         [&] { return Tarvex_Element_GetPalette_SurfaceUniform(Id, Surface, &palette); }},
-        {"get colour", true, STATUS_OK,
+        {"palette", true, [&] { return Tarvex_Element_SetPalette_SurfaceUniform(Id, Surface, 2); }},
+        {"transparency", false, [&] { return Tarvex_Element_SetTransparency(Id, Surface, 0.5); }},
+        {"get colour", true,
          [&] { return Tarvex_Element_GetColor(Id, Surface, &color[0], &color[1], &color[2]); }},
-        {"mode", false, STATUS_OK,
+        {"mode", false,
          [&] { return Tarvex_Element3D_SurfaceUniform_SetRepresentationMode(Id, Surface, 0); }},
-        {"refused palette", false, STATUS_OUT_OF_RANGE,
-         [&] { return Tarvex_Element_SetPalette_SurfaceUniform(Id, Surface, 9); }},
-        {"range", true, STATUS_OK,
+        {"range", true,
          [&] { return Tarvex_Element_ZScalingPalette_SurfaceUniform(Id, Surface, 0, 0, 1, 2); }},
-        {"background", false, STATUS_OK,
-         [&] { return Tarvex_Window_SetBackgroundColor(Id, 1, 2, 3); }},
-        {"set", true, STATUS_OK,
+        {"set", true,
          [&]
          {
              return Tarvex_Element_SurfaceUniform_SetValue(Id, Surface, Raw, Bytes, 2, 2, 1, 1, 1,
                                                            0, 0, 0);
          }},
-        {"intensity", true, STATUS_OK,
+        {"intensity", true,
          [&] { return Tarvex_Element_ShowIntensity_SurfaceUniform(Id, Surface, 1); }},
-        {"own palette", true, STATUS_OK,
+        {"own palette", true,
          [&] { return Tarvex_Element_SetPalette_SurfaceUniform(Id, Surface, 6); }},
-        {"colour", true, STATUS_OK, [&] { return Tarvex_Element_SetColor(Id, Surface, 1, 2, 3); }},
-        {"another surface's palette", false, STATUS_OK,
+        {"colour", true, [&] { return Tarvex_Element_SetColor(Id, Surface, 1, 2, 3); }},
+        {"another surface's palette", false,
          [&] { return Tarvex_Element_SetPalette_SurfaceNonUniform(Id, Cloud, 1); }},
-        {"moved", true, STATUS_OK, [&] { return Tarvex_Window_ScalarBar_Add(Id, Cloud); }},
+        {"moved", true, [&] { return Tarvex_Window_ScalarBar_Add(Id, Cloud); }},
         // The one getter of a palette that connects the bar.
-        {"transparency, non-uniform", false, STATUS_OK,
+        {"transparency, non-uniform", false,
          [&] { return Tarvex_Element_SetTransparency(Id, Cloud, 0.5); }},
-        {"get palette, non-uniform", true, STATUS_OK,
+        {"get palette, non-uniform", true,
          [&] { return Tarvex_Element_GetPalette_SurfaceNonUniform(Id, Cloud, &palette); }},
     };
     // Held, so that no later table gets the address of an earlier one.
     std::vector<vtkSmartPointer<vtkScalarsToColors>> former;
-    for (const auto& [name, follows, status, make] : cases)
+    for (const auto& [name, follows, make] : cases)
     {
         former.emplace_back(BarTable());
-        EXPECT_EQ(make(), status) << name;
+        EXPECT_EQ(make(), STATUS_OK) << name;
         EXPECT_EQ(BarTable() != former.back(), follows) << name;
     }
+}
+
+TEST_F(ScalarBarTable, GoesWithOneSurfaceUntilItIsRemoved)
+{
+    EXPECT_EQ(Tarvex_Window_ScalarBar_Add(Id, AddPoint(0, 0, 0)), STATUS_WRONG_TYPE);
+    EXPECT_EQ(IsShown(), 1);
+    ASSERT_EQ(Tarvex_Window_ScalarBar_ShowHide(Id, 0), STATUS_OK);
+    // Moved while hidden it stays hidden, and no longer goes with the first surface.
+    ASSERT_EQ(Tarvex_Window_ScalarBar_Add(Id, Cloud), STATUS_OK);
+    EXPECT_EQ(Tarvex_Element_Remove(Id, Surface), STATUS_OK);
+    EXPECT_EQ(IsShown(), 0);
+    EXPECT_EQ(Tarvex_Element_Remove(Id, Cloud), STATUS_OK);
+    EXPECT_EQ(IsShown(), STATUS_NOT_READY);
 }
