@@ -150,7 +150,7 @@ TEST(Threads, MayCallWhileAnotherPumps)
                 }
             });
     }
-    for (int step = 0; step < 300 || rounds[0] < 2 || rounds[1] < 2 || rounds[2] < 2; ++step)
+    for (int step = 0; step < 40 || rounds[0] < 2 || rounds[1] < 2 || rounds[2] < 2; ++step)
     {
         host.MoveMouse(host.Native, step % 300, step % 200);
         expect(TarvexExt_ProcessEvents());
