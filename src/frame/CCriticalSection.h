@@ -24,8 +24,25 @@ public:
         {
             Serving.wait(now, std::memory_order_acquire);
         }
-        Owner.store(self, std::memory_order_relaxed);
-        Depth = 1;
+        Take(self);
+    }
+
+    bool try_lock()
+    {
+        const std::thread::id self = std::this_thread::get_id();
+        if (Owner.load(std::memory_order_relaxed) == self)
+        {
+            ++Depth;
+            return true;
+        }
+        // Free when the next ticket is the one that is served.
+        uint32_t ticket = Serving.load(std::memory_order_acquire);
+        if (!NextTicket.compare_exchange_strong(ticket, ticket + 1, std::memory_order_acquire))
+        {
+            return false;
+        }
+        Take(self);
+        return true;
     }
 
     void unlock()
@@ -39,6 +56,12 @@ public:
     }
 
 private:
+    void Take(std::thread::id self)
+    {
+        Owner.store(self, std::memory_order_relaxed);
+        Depth = 1;
+    }
+
     std::atomic<std::thread::id> Owner;
     std::atomic<uint32_t> NextTicket = 0;
     std::atomic<uint32_t> Serving = 0;
