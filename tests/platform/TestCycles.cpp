@@ -20,7 +20,7 @@ TEST(Cycles, LeaveNothingBehindHoweverTheParentEnds)
     TestView kept(keeper.Handle());
     const Picture picture = TakePicture(kept.Id);
     int descriptors = 0;
-    long memory = 0;
+    [[maybe_unused]] long memory = 0;
     for (int cycle = 0; cycle < 100; ++cycle)
     {
         if (cycle == 40)
