@@ -190,8 +190,11 @@ void SurfaceMapper::BuildColors()
     this->MapScalarsToTexture(scalar, 1.0);
     if (!this->InternalColorTexture)
     {
-        this->InternalColorTexture = vtkOpenGLTexture::New(); // the base class deletes it
-        this->InternalColorTexture->RepeatOff();
+        vtkNew<vtkOpenGLTexture> texture;
+        texture->RepeatOff();
+        // The base class drops the one reference that its member holds.
+        texture->Register(nullptr);
+        this->InternalColorTexture = texture;
     }
     this->InternalColorTexture->SetInputData(this->ColorTextureMap);
 }
