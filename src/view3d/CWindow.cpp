@@ -1,5 +1,6 @@
 #include "view3d/CWindow.h"
 
+#include "interaction3d/CElement_Drawn.h"
 #include "interaction3d/MyDefaultInteractorStyle.h"
 #include "platform/Platform.h"
 #include "view3d/CCoordinateAxes.h"
@@ -36,6 +37,7 @@ CWindow::~CWindow()
     RenderWindow = nullptr;
     Interactor = nullptr;
     DefaultStyle = nullptr;
+    DrawnElement = nullptr;
     Renderer = nullptr;
     CoordinateAxes = nullptr;
     CubeAxes = nullptr;

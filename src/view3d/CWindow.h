@@ -21,6 +21,7 @@
 class CCoordinateAxes;
 class CCubeAxesActor;
 class CElement_Draggable;
+class CElement_Drawn;
 class MyDefaultInteractorStyle;
 class vtkOrientationMarkerWidget;
 class vtkScalarBarActor;
@@ -94,6 +95,17 @@ public:
     void DragActiveElement(int32_t handle, double x, double y, double z, bool finished);
     static constexpr int32_t NoHandle = 9999; // a drag ended without a position
 
+    // Draw modes (CWindowDraw.cpp)
+    int32_t SetDrawMode(uint32_t mode);
+    int32_t GetDrawMode(int32_t* mode);
+    // The mouse at a position in VTK's world, (0, 0, 0) for none; nothing happens in the modes that
+    // draw nothing. The last two may finish an element: the host hears of it, and may have deleted
+    // this view when the call returns.
+    void DrawDown(double x, double y, double z);
+    void DrawMove(double x, double y, double z);
+    void DrawUp(double x, double y, double z);
+    void DrawEnd();
+
     // Camera, in VTK's world frame (CWindowCamera.cpp)
     int32_t Camera_AutoSize();
     int32_t Camera_EnableParallelProjection(bool enable);
@@ -153,6 +165,12 @@ private:
     CElement_Draggable* FindDraggable(int32_t elementId) const;
     // The styles forget the handles. Those of an element that stays are switched off before.
     void ClearActiveElement();
+    int32_t EnterDrawMode();
+    void LeaveDrawMode();
+    // No style hears the mouse, and none has anything left to end.
+    void TakeOutStyle();
+    // The element that was drawn, if one was, in place of the rubber band.
+    void FinishDrawing();
     void ShowOrientation();
     void HideOrientation();
     // For the calls that need a scale frame: the change, and a render if it succeeded.
@@ -170,7 +188,8 @@ private:
     // Host coordinates to VTK's world: a host point (x, y, z) lies at (x, -y, z).
     vtkSmartPointer<vtkTransform> SceneTransform;
 
-    int32_t DrawMode = 0; // 0: none
+    int32_t DrawMode = TARVEX_DRAW_NONE;
+    std::unique_ptr<CElement_Drawn> DrawnElement; // there in every draw mode
     double DrawSpace[6] = {-50.0, 50.0, -50.0, 50.0, -50.0, 50.0};
     bool MouseEnabled[3] = {true, true, true}; // left, middle, right with wheel
     int32_t ActiveElementId = -1;
