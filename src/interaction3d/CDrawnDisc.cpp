@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include <vtkRegularPolygonSource.h>
-
 CDrawnDisc::CDrawnDisc(vtkRenderer* renderer, vtkTransform* sceneTransform)
     : CDrawGesture(renderer, sceneTransform)
 {

@@ -3,7 +3,7 @@
 
 #include "interaction3d/CDrawGesture.h"
 
-class vtkRegularPolygonSource;
+#include <vtkRegularPolygonSource.h>
 
 class CDrawnDisc : public CDrawGesture
 {

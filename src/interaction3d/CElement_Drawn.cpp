@@ -39,6 +39,29 @@ Vector3 CElement_Drawn::GetMiddle() const
             (DrawSpace[4] + DrawSpace[5]) * 0.5};
 }
 
+void CElement_Drawn::PlacePlane()
+{
+    if (!AreDrawable(DrawSpace))
+    {
+        DrawingPlane.Remove();
+        return;
+    }
+    const auto [xmin, xmax, ymin, ymax, zmin, zmax] = DrawSpace;
+    const auto [xc, yc, zc] = GetMiddle();
+    // In VTK's world, where Y is mirrored.
+    if (Plane == DrawPlane::Vertical)
+    {
+        DrawingPlane.Place(Renderer, {xmin, -yc, zmin}, {xmax, -yc, zmin}, {xmin, -yc, zmax});
+    }
+    else
+    {
+        DrawingPlane.Place(Renderer, {xmin, -ymin, zc}, {xmax, -ymin, zc}, {xmin, -ymax, zc});
+    }
+    // The camera is to see it whole.
+    DrawingPlane.GetActor()->UseBoundsOn();
+    Renderer->ResetCameraClippingRange();
+}
+
 DrawPoint CElement_Drawn::ToPlane(double x, double y, double z) const
 {
     // The picker's way of saying that it hit nothing.

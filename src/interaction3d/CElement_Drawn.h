@@ -3,6 +3,7 @@
 // It is no element of the view itself.
 #pragma once
 
+#include "interaction3d/CCatcherPlane.h"
 #include "interaction3d/CDrawnBox.h"
 #include "interaction3d/CDrawnDisc.h"
 #include "interaction3d/CDrawnVertices.h"
@@ -51,6 +52,7 @@ private:
     vtkRenderer* Renderer;
     std::array<double, 6> DrawSpace = {-50.0, 50.0, -50.0, 50.0, -50.0, 50.0};
     DrawPlane Plane = DrawPlane::Vertical;
+    CCatcherPlane DrawingPlane;
     CDrawnBox Box;
     CDrawnDisc Disc;
     CDrawnVertices Vertices;

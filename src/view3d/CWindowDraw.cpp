@@ -192,6 +192,7 @@ void CWindow::TakeOutStyle()
 {
     DefaultStyle->EndMotion();
     DrawStyle->EndMotion();
+    DrawStyle->DropGesture();
     Interactor->SetInteractorStyle(nullptr);
 }
 
@@ -247,7 +248,8 @@ void CWindow::FinishDrawing()
         Guarded(LastError, [&] { return shape->Add(*this, *DrawnElement, &elementId); }) ==
             STATUS_OK)
     {
-        OnElement<CElement_Base>(elementId, Render::Never, [&](CElement_Base& element)
+        OnElement<CElement_Base>(elementId, Render::Never,
+                                 [&](CElement_Base& element)
                                  { return SetDrawnLook(element, shape->Transparency); });
     }
     DrawnElement->Clear();
