@@ -34,10 +34,10 @@ CWindow::~CWindow()
     {
         Interactor->SetInteractorStyle(nullptr);
     }
+    DrawnElement = nullptr; // still has a renderer to leave
     RenderWindow = nullptr;
     Interactor = nullptr;
     DefaultStyle = nullptr;
-    DrawnElement = nullptr;
     Renderer = nullptr;
     CoordinateAxes = nullptr;
     CubeAxes = nullptr;

@@ -169,10 +169,11 @@ int32_t CWindow::EnterDrawMode()
         }
         RenderWindow->Render();
     }
-    else
+    else if (DrawnElement->IsUnderWay())
     {
         // The plane of the former mode stays, but not what was begun on it.
         DrawnElement->Clear();
+        RenderWindow->Render();
     }
     Interactor->SetInteractorStyle(DrawStyle);
     return STATUS_OK;
