@@ -23,6 +23,7 @@ class CCubeAxesActor;
 class CElement_Draggable;
 class CElement_Drawn;
 class MyDefaultInteractorStyle;
+class MyDrawMouseInteractorStyle;
 class vtkOrientationMarkerWidget;
 class vtkScalarBarActor;
 class vtkTextActor;
@@ -93,7 +94,6 @@ public:
     // A handle of the active element under the mouse, in host coordinates. With `finished` the host
     // hears of it, and may have deleted this view when the call returns.
     void DragActiveElement(int32_t handle, double x, double y, double z, bool finished);
-    static constexpr int32_t NoHandle = 9999; // a drag ended without a position
 
     // Draw modes (CWindowDraw.cpp)
     int32_t SetDrawMode(uint32_t mode);
@@ -152,6 +152,7 @@ public:
     vtkScalarBarActor* GetScalarBar() const;
     vtkTextActor* GetPickTextActor() const;
     MyDefaultInteractorStyle* GetDefaultStyle() const;
+    MyDrawMouseInteractorStyle* GetDrawStyle() const;
     CElement_Scene* FindElement(int32_t elementId) const { return Elements.Find(elementId); }
 
 private:
@@ -163,7 +164,7 @@ private:
     ElementSite MakeSite(const ElementDefaults* defaults) const;
     // Null for elements that have no handles.
     CElement_Draggable* FindDraggable(int32_t elementId) const;
-    // The styles forget the handles. Those of an element that stays are switched off before.
+    // No element is active. The handles of one that stays are switched off before.
     void ClearActiveElement();
     int32_t EnterDrawMode();
     void LeaveDrawMode();
@@ -171,6 +172,11 @@ private:
     void TakeOutStyle();
     // The element that was drawn, if one was, in place of the rubber band.
     void FinishDrawing();
+    // Both styles know the handles of the active element, or none. Ends a drag under way.
+    void OfferDragTarget(const CElement_Draggable& element);
+    void ClearDragTarget();
+    // Before the mouse means something else: drags and camera motions under way are over.
+    void EndMouseMotion();
     void ShowOrientation();
     void HideOrientation();
     // For the calls that need a scale frame: the change, and a render if it succeeded.
@@ -185,6 +191,7 @@ private:
     vtkSmartPointer<vtkRenderWindow> RenderWindow; // null: not created
     vtkSmartPointer<vtkRenderWindowInteractor> Interactor;
     vtkSmartPointer<MyDefaultInteractorStyle> DefaultStyle;
+    vtkSmartPointer<MyDrawMouseInteractorStyle> DrawStyle; // while a draw mode is on
     // Host coordinates to VTK's world: a host point (x, y, z) lies at (x, -y, z).
     vtkSmartPointer<vtkTransform> SceneTransform;
 

@@ -191,8 +191,7 @@ void CWindow::LeaveDrawMode()
 
 void CWindow::TakeOutStyle()
 {
-    DefaultStyle->EndMotion();
-    DrawStyle->EndMotion();
+    EndMouseMotion();
     DrawStyle->DropGesture();
     Interactor->SetInteractorStyle(nullptr);
 }
