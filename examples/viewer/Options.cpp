@@ -6,6 +6,16 @@
 #include <cstdio>
 #include <stdexcept>
 
+const char* const KeyHelp =
+    "Keys: r frames the scene, F1 to F6 look along an axis, p parallel projection,\n"
+    "c next palette, + and - clip more or less of the heights, i intensity,\n"
+    "m isolated samples, f scale frame, b bar, a coordinate axes, o orientation\n"
+    "marker, n next file, q or Escape end.\n"
+    "Drawing: 1 rectangle, 2 cube, 3 circle, 4 cylinder: drag with the left button.\n"
+    "5 polygon, 6 polyhedron: a click for each vertex, the right button ends. 7 draws\n"
+    "nothing, 0 gives the camera back. Tab puts handles on the next cube, cylinder or\n"
+    "polyhedron, to drag it by.";
+
 namespace
 {
 // What has to be read more closely than CLI11 does.
@@ -80,11 +90,7 @@ void DeclareOutput(CLI::App& app, Options& options, Words& words)
     app.add_option("--size", words.Size, "size of the window")->capture_default_str();
     app.add_option("--screenshot", options.Screenshot, "write the picture to this PNG and end");
     app.add_flag("--print", options.Print, "print numbers about the data and the time it took");
-    app.footer("Keys: r frames the scene, 0 to 5 look along an axis, p parallel projection,\n"
-               "c next palette, + and - clip more or less of the heights, i intensity,\n"
-               "m isolated samples, f scale frame, b bar, a coordinate axes, o orientation\n"
-               "marker, h handles on the next cube, cylinder or polyhedron, n next file,\n"
-               "q or Escape end.");
+    app.footer(KeyHelp);
 }
 
 // The whole text as a finite number, or nothing.

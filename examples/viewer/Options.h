@@ -22,6 +22,9 @@ struct Options
     bool Print = false;
 };
 
+// What the keys do, for people.
+extern const char* const KeyHelp;
+
 // Nothing when there is no more to do, as after --help; the exit status is set then. Throws
 // std::runtime_error for values that can't be used.
 std::optional<Options> ReadOptions(int argc, char** argv, int& exitStatus);

@@ -1,5 +1,6 @@
 #include "SurfaceView.h"
 
+#include "ElementReports.h"
 #include "GeometryScene.h"
 #include "Library.h"
 #include "Marks.h"
@@ -38,6 +39,7 @@ SurfaceView::SurfaceView(void* parentWindow, int32_t width, int32_t height,
         // The first call that needs the native window; it fails where the view can't be shown.
         Redraw();
         LookObliquely();
+        ReportElements(Id);
     }
     catch (...)
     {
@@ -97,6 +99,13 @@ void SurfaceView::SetDrawSpace()
                                      Size.YMax + depthRoom, Lowest - heightRoom,
                                      Highest + heightRoom),
           "Tarvex_Window_SetDrawSpace");
+    // A draw mode keeps the space in which it began.
+    int32_t mode = TARVEX_DRAW_NONE;
+    Check(Tarvex_Window_GetDrawMode(Id, &mode), "Tarvex_Window_GetDrawMode");
+    if (mode != TARVEX_DRAW_NONE)
+    {
+        ChooseDrawMode(static_cast<uint32_t>(mode));
+    }
 }
 
 void SurfaceView::ApplyFurniture()
@@ -137,6 +146,11 @@ void SurfaceView::ActivateNextElement()
 {
     ::ActivateNextElement(Id);
     Redraw();
+}
+
+void SurfaceView::ChooseDrawMode(uint32_t mode)
+{
+    Check(Tarvex_Window_SetDrawMode(Id, mode), "Tarvex_Window_SetDrawMode");
 }
 
 void SurfaceView::Resize(int32_t width, int32_t height)

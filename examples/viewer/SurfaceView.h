@@ -55,6 +55,8 @@ public:
     void ToggleParallelProjection();
     void ToggleFurniture(bool Furniture::*part);
     void ActivateNextElement();
+    // One of TARVEX_DRAW_...; what the user then draws is reported on standard output.
+    void ChooseDrawMode(uint32_t mode);
 
     RgbPicture Picture() const;
 

@@ -208,16 +208,20 @@ private:
         case XK_o:
             View.ToggleFurniture(&Furniture::Marker);
             break;
-        case XK_h:
+        case XK_Tab:
             View.ActivateNextElement();
             break;
         case XK_n:
             ShowScene((Shown + 1) % Scenes.size());
             break;
         default:
-            if (key >= XK_0 && key <= XK_5)
+            if (key >= XK_0 && key <= XK_7)
             {
-                View.ShowFrom(static_cast<int32_t>(key - XK_0));
+                View.ChooseDrawMode(static_cast<uint32_t>(key - XK_0));
+            }
+            else if (key >= XK_F1 && key <= XK_F6)
+            {
+                View.ShowFrom(static_cast<int32_t>(key - XK_F1));
             }
             else if (SurfaceElement* surface = View.Surface())
             {
@@ -290,6 +294,8 @@ int main(int argc, char** argv)
             Save(program.ShownView(), options->Screenshot);
             return 0;
         }
+        std::printf("%s\n", KeyHelp);
+        std::fflush(stdout);
         program.Run();
         return 0;
     }

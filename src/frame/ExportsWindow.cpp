@@ -95,12 +95,12 @@ int32_t Tarvex_Window_SetActiveElement(int32_t windowId, int32_t elementId)
 int32_t Tarvex_Window_GetDrawMode(int32_t windowId, int32_t* mode)
 {
     ClearToNone(mode);
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::GetDrawMode, mode);
 }
 
-int32_t Tarvex_Window_SetDrawMode(int32_t windowId, uint32_t /*mode*/)
+int32_t Tarvex_Window_SetDrawMode(int32_t windowId, uint32_t mode)
 {
-    return NotBuilt<CWindow>(windowId);
+    return OnView(windowId, &CWindow::SetDrawMode, mode);
 }
 
 int32_t Tarvex_Window_Camera_AutoSize(int32_t windowId)

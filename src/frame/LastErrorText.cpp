@@ -8,6 +8,7 @@
 #include <array>
 #include <cstring>
 #include <mutex>
+#include <utility>
 
 namespace
 {
@@ -55,12 +56,10 @@ vtkSmartPointer<vtkOutputWindow> MessageCapture::CreateWindow()
     return window;
 }
 
-MessageCapture::MessageCapture()
+namespace
 {
-    if (captureDepth++ > 0)
-    {
-        return;
-    }
+void TakeMessages()
+{
     hostWindow = vtkOutputWindow::GetInstance();
     hostWindow->Register(nullptr);
     vtkOutputWindow::SetInstance(captureWindow);
@@ -69,13 +68,43 @@ MessageCapture::MessageCapture()
     vtkloguru::g_stderr_verbosity = vtkloguru::Verbosity_OFF;
 }
 
-MessageCapture::~MessageCapture()
+void GiveMessagesBack()
 {
-    if (--captureDepth > 0)
-    {
-        return;
-    }
     vtkloguru::g_stderr_verbosity = hostVerbosity;
     vtkOutputWindow::SetInstance(hostWindow);
     hostWindow->UnRegister(nullptr);
+}
+} // namespace
+
+MessageCapture::MessageCapture()
+{
+    if (captureDepth++ == 0)
+    {
+        TakeMessages();
+    }
+}
+
+MessageCapture::~MessageCapture()
+{
+    if (--captureDepth == 0)
+    {
+        GiveMessagesBack();
+    }
+}
+
+MessageHandback::MessageHandback() : Depth(std::exchange(captureDepth, 0))
+{
+    if (Depth > 0)
+    {
+        GiveMessagesBack();
+    }
+}
+
+MessageHandback::~MessageHandback()
+{
+    captureDepth = Depth;
+    if (Depth > 0)
+    {
+        TakeMessages();
+    }
 }

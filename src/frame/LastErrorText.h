@@ -29,3 +29,16 @@ public:
     MessageCapture(const MessageCapture&) = delete;
     MessageCapture& operator=(const MessageCapture&) = delete;
 };
+
+// Within a capture: while one lives, VTK's messages are the host's again.
+class MessageHandback
+{
+public:
+    MessageHandback();
+    ~MessageHandback();
+    MessageHandback(const MessageHandback&) = delete;
+    MessageHandback& operator=(const MessageHandback&) = delete;
+
+private:
+    int Depth;
+};

@@ -1,64 +1,74 @@
 #include "interaction3d/MyDefaultInteractorStyle.h"
 
+#include "platform/Platform.h"
+
+#include <vtkActor.h>
 #include <vtkObjectFactory.h>
+#include <vtkPolyDataMapper.h>
 #include <vtkRenderWindowInteractor.h>
+#include <vtkRenderer.h>
+#include <vtkSphereSource.h>
+
+#include <algorithm>
 
 vtkStandardNewMacro(MyDefaultInteractorStyle);
 
-void MyDefaultInteractorStyle::SetMouseFlags(bool left, bool middle, bool right)
+MyDefaultInteractorStyle::MyDefaultInteractorStyle()
 {
-    LeftEnabled = left;
-    MiddleEnabled = middle;
-    RightEnabled = right;
+    constexpr double markerRadius = 0.04; // scene units
+    const vtkNew<vtkPolyDataMapper> mapper;
+    MarkerSource->SetRadius(markerRadius);
+    mapper->SetInputConnection(MarkerSource->GetOutputPort());
+    MarkerActor->SetMapper(mapper);
+    MarkerActor->PickableOff();
 }
 
-void MyDefaultInteractorStyle::EndMotion()
+void MyDefaultInteractorStyle::FollowMouse()
 {
-    State = VTKIS_NONE;
-    if (Interactor)
+    if (!ForwardPick)
     {
-        ReleaseFocus();
+        HideMarker();
+        return;
+    }
+    const Vector3 position = PickHere();
+    ForwardPick(WindowId, position[0], position[1], position[2]);
+    if (!IsInstalled())
+    {
+        return;
+    }
+    // A coordinate of exactly 0 counts as nothing picked.
+    if (std::find(position.begin(), position.end(), 0.0) == position.end())
+    {
+        ShowMarker(position);
+    }
+    else
+    {
+        HideMarker();
     }
 }
 
-void MyDefaultInteractorStyle::OnLeftButtonDown()
+void MyDefaultInteractorStyle::ShowMarker(const Vector3& position)
 {
-    if (LeftEnabled)
+    const double* shown = MarkerSource->GetCenter();
+    if (MarkerRenderer && std::equal(position.begin(), position.end(), shown))
     {
-        Superclass::OnLeftButtonDown();
+        return;
     }
+    MarkerSource->SetCenter(position[0], position[1], position[2]);
+    if (!MarkerRenderer)
+    {
+        MarkerRenderer = GetViewRenderer();
+        MarkerRenderer->AddActor(MarkerActor);
+    }
+    Platform::RequestRender(Interactor->GetRenderWindow());
 }
 
-void MyDefaultInteractorStyle::OnMiddleButtonDown()
+void MyDefaultInteractorStyle::HideMarker()
 {
-    if (MiddleEnabled)
+    if (MarkerRenderer)
     {
-        Superclass::OnMiddleButtonDown();
-    }
-}
-
-void MyDefaultInteractorStyle::OnRightButtonDown()
-{
-    if (RightEnabled)
-    {
-        // With Shift the base class would turn the environment, which nobody sees here: zoom.
-        Interactor->SetShiftKey(0);
-        Superclass::OnRightButtonDown();
-    }
-}
-
-void MyDefaultInteractorStyle::OnMouseWheelForward()
-{
-    if (RightEnabled)
-    {
-        Superclass::OnMouseWheelForward();
-    }
-}
-
-void MyDefaultInteractorStyle::OnMouseWheelBackward()
-{
-    if (RightEnabled)
-    {
-        Superclass::OnMouseWheelBackward();
+        MarkerRenderer->RemoveActor(MarkerActor);
+        MarkerRenderer = nullptr;
+        Platform::RequestRender(Interactor->GetRenderWindow());
     }
 }

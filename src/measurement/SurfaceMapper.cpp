@@ -1,10 +1,10 @@
 #include "measurement/SurfaceMapper.h"
 
+#include "elements3d/ViewArea.h"
+
 #include <vtkActor.h>
-#include <vtkCamera.h>
 #include <vtkCellArray.h>
 #include <vtkDoubleArray.h>
-#include <vtkHardwareSelector.h>
 #include <vtkImageData.h>
 #include <vtkMath.h>
 #include <vtkMatrix4x4.h>
@@ -31,65 +31,8 @@ vtkStandardNewMacro(SurfaceMapper);
 
 namespace
 {
-// The part of the drawing surface that matters, in normalised device coordinates.
-struct Area
-{
-    double Left;
-    double Right;
-    double Bottom;
-    double Top;
-};
-
 // Pixels that a strip may reach beyond its box by rounding.
-constexpr double Margin = 2.0;
-
-Area FindArea(vtkRenderer* renderer)
-{
-    int width = 0;
-    int height = 0;
-    int left = 0;
-    int bottom = 0;
-    renderer->GetTiledSizeAndOrigin(&width, &height, &left, &bottom);
-    const double unitX = 2.0 / std::max(width, 1);
-    const double unitY = 2.0 / std::max(height, 1);
-    Area area{-1.0, 1.0, -1.0, 1.0};
-    if (vtkHardwareSelector* selector = renderer->GetSelector())
-    {
-        unsigned int pixels[4]; // xmin, ymin, xmax, ymax within the window, all inclusive
-        selector->GetArea(pixels);
-        area.Left = (static_cast<double>(pixels[0]) - left) * unitX - 1.0;
-        area.Bottom = (static_cast<double>(pixels[1]) - bottom) * unitY - 1.0;
-        area.Right = (static_cast<double>(pixels[2]) + 1.0 - left) * unitX - 1.0;
-        area.Top = (static_cast<double>(pixels[3]) + 1.0 - bottom) * unitY - 1.0;
-    }
-    area.Left -= Margin * unitX;
-    area.Right += Margin * unitX;
-    area.Bottom -= Margin * unitY;
-    area.Top += Margin * unitY;
-    return area;
-}
-
-// True if all corners lie on the outer side of one edge of the area. That is tested before the
-// division by w, as OpenGL clips, so a box around the camera needs no care.
-bool IsOutsideArea(const SurfaceBox& box, const double (&toDevice)[16], const Area& area)
-{
-    int left = 0;
-    int right = 0;
-    int below = 0;
-    int above = 0;
-    for (size_t corner = 0; corner < 8; ++corner)
-    {
-        const double point[4] = {box.Bounds[corner & 1], box.Bounds[2 + (corner >> 1 & 1)],
-                                 box.Bounds[4 + (corner >> 2)], 1.0};
-        double device[4];
-        vtkMatrix4x4::MultiplyPoint(toDevice, point, device);
-        left += device[0] < area.Left * device[3];
-        right += device[0] > area.Right * device[3];
-        below += device[1] < area.Bottom * device[3];
-        above += device[1] > area.Top * device[3];
-    }
-    return left == 8 || right == 8 || below == 8 || above == 8;
-}
+constexpr double margin = 2.0;
 } // namespace
 
 SurfaceMapper::SurfaceMapper()
@@ -327,19 +270,17 @@ void SurfaceMapper::ChooseStrips(vtkRenderer* renderer, vtkActor* actor)
 {
     StripLengths.clear();
     StripOffsets.clear();
-    const Area area = FindArea(renderer);
+    const ViewArea area(renderer, margin);
     actor->ComputeMatrix();
+    double worldToDevice[16];
     double toDevice[16];
-    vtkMatrix4x4::Multiply4x4(
-        *renderer->GetActiveCamera()
-             ->GetCompositeProjectionTransformMatrix(renderer->GetTiledAspectRatio(), -1, 1)
-             ->Element,
-        *actor->GetMatrix()->Element, toDevice);
+    GetWorldToDevice(renderer, worldToDevice);
+    vtkMatrix4x4::Multiply4x4(worldToDevice, actor->GetMatrix()->GetData(), toDevice);
 
     const int32_t* begins = Mesh.PolyData->GetStrips()->GetOffsetsArray32()->GetPointer(0);
     for (size_t strip = 0; strip < Mesh.StripBoxes.size(); ++strip)
     {
-        if (!IsOutsideArea(Mesh.StripBoxes[strip], toDevice, area))
+        if (!area.IsOutside(Mesh.StripBoxes[strip].Bounds.data(), toDevice))
         {
             StripLengths.push_back(begins[strip + 1] - begins[strip]);
             StripOffsets.push_back(reinterpret_cast<const void*>(

@@ -38,7 +38,7 @@ void CXInteractor::Render()
 {
     if (X11->Dispatching)
     {
-        RenderRequested = true;
+        RequestRender();
     }
     else
     {
@@ -81,7 +81,7 @@ void CXInteractor::HandleEvent(const XEvent& event)
     case Expose:
         if (event.xexpose.count == 0)
         {
-            RenderRequested = true;
+            RequestRender();
         }
         break;
     case ConfigureNotify:
@@ -144,6 +144,6 @@ void CXInteractor::HandleConfigure(const XConfigureEvent& event)
     {
         GetXWindow()->TakeNativeSize(event.width, event.height);
         InvokeEvent(vtkCommand::ConfigureEvent);
-        RenderRequested = true;
+        RequestRender();
     }
 }

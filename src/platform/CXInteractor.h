@@ -23,6 +23,7 @@ public:
     void Render() override;
 
     void HandleEvent(const XEvent& event);
+    void RequestRender() { RenderRequested = true; }
     bool WantsRender() const { return RenderRequested; }
     void RenderIfWanted();
 

@@ -42,6 +42,24 @@ bool CopyPicture(vtkRenderWindow* window, uint8_t* rgb);
 void HoldRenders(vtkRenderWindow* window);
 bool ReleaseRenders(vtkRenderWindow* window);
 
+// Renders once at the end of the batch of events that is being handled, or of the next one.
+void RequestRender(vtkRenderWindow* window);
+
+// Lives while a function of the host runs in the middle of a call of ours: the thread looks to the
+// host as if no call were under way. Neither our OpenGL context is current nor our error handlers
+// are set, and calls into the library out of the function are calls like any other.
+class HostScope
+{
+public:
+    HostScope();
+    ~HostScope();
+    HostScope(const HostScope&) = delete;
+    HostScope& operator=(const HostScope&) = delete;
+
+private:
+    int CallDepth;
+};
+
 // One step of the event pump runs one action; the caller wraps it in lock and guard.
 using EventStep = std::function<void(const std::function<void()>& action)>;
 // Handles the events that wait at this moment, without waiting for more, then renders each view

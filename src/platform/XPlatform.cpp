@@ -114,6 +114,23 @@ std::vector<Window> FindRenderRequests()
 
 namespace Platform
 {
+namespace
+{
+void EndCall()
+{
+    // Only drawing leaves something behind; a call that does not draw shall cost next to nothing.
+    if (std::exchange(X11->ContextNoted, false))
+    {
+        RestoreContext();
+        if (X11->Connection && !X11->Connection->IsBroken())
+        {
+            XFlush(X11->Connection->Drawing);
+        }
+    }
+    X11->CallTrap.reset();
+}
+} // namespace
+
 CallScope::CallScope()
 {
     if (X11->CallDepth++ == 0)
@@ -129,17 +146,25 @@ CallScope::~CallScope()
         --X11->CallDepth;
         return;
     }
-    // Only drawing leaves something behind; a call that does not draw shall cost next to nothing.
-    if (std::exchange(X11->ContextNoted, false))
-    {
-        RestoreContext();
-        if (X11->Connection && !X11->Connection->IsBroken())
-        {
-            XFlush(X11->Connection->Drawing);
-        }
-    }
-    X11->CallTrap.reset();
+    EndCall();
     --X11->CallDepth;
+}
+
+HostScope::HostScope() : CallDepth(std::exchange(X11->CallDepth, 0))
+{
+    if (CallDepth > 0)
+    {
+        EndCall();
+    }
+}
+
+HostScope::~HostScope()
+{
+    X11->CallDepth = CallDepth;
+    if (CallDepth > 0)
+    {
+        X11->CallTrap.emplace();
+    }
 }
 
 vtkSmartPointer<vtkRenderWindow> NewRenderWindow()
@@ -172,6 +197,11 @@ void HoldRenders(vtkRenderWindow* window)
 bool ReleaseRenders(vtkRenderWindow* window)
 {
     return CXRenderWindow::SafeDownCast(window)->ReleaseRenders();
+}
+
+void RequestRender(vtkRenderWindow* window)
+{
+    CXInteractor::SafeDownCast(window->GetInteractor())->RequestRender();
 }
 
 int GetEventDescriptor()

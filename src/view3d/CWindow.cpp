@@ -1,6 +1,8 @@
 #include "view3d/CWindow.h"
 
+#include "interaction3d/CElement_Drawn.h"
 #include "interaction3d/MyDefaultInteractorStyle.h"
+#include "interaction3d/MyDrawMouseInteractorStyle.h"
 #include "platform/Platform.h"
 #include "view3d/CCoordinateAxes.h"
 #include "view3d/CCubeAxesActor.h"
@@ -28,14 +30,20 @@ CWindow::~CWindow()
     // Widgets hold on to the interactor.
     HidePickText();
     HideOrientation();
+    if (DrawStyle)
+    {
+        ClearDragTarget();
+    }
     // The native window leaves first, then the elements, which touch neither it nor the renderer.
     if (Interactor)
     {
         Interactor->SetInteractorStyle(nullptr);
     }
+    DrawnElement = nullptr; // still has a renderer to leave
     RenderWindow = nullptr;
     Interactor = nullptr;
     DefaultStyle = nullptr;
+    DrawStyle = nullptr;
     Renderer = nullptr;
     CoordinateAxes = nullptr;
     CubeAxes = nullptr;
@@ -75,6 +83,8 @@ int32_t CWindow::Create(bool noBorders, void* parentWindow, int32_t x, int32_t y
             DefaultStyle = vtkSmartPointer<MyDefaultInteractorStyle>::New();
             DefaultStyle->SetWindowId(Id);
             DefaultStyle->SetMouseFlags(MouseEnabled[0], MouseEnabled[1], MouseEnabled[2]);
+            DrawStyle = vtkSmartPointer<MyDrawMouseInteractorStyle>::New();
+            DrawStyle->SetWindowId(Id);
             Interactor->SetInteractorStyle(DefaultStyle);
 
             SceneTransform = vtkSmartPointer<vtkTransform>::New();

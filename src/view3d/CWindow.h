@@ -21,7 +21,9 @@
 class CCoordinateAxes;
 class CCubeAxesActor;
 class CElement_Draggable;
+class CElement_Drawn;
 class MyDefaultInteractorStyle;
+class MyDrawMouseInteractorStyle;
 class vtkOrientationMarkerWidget;
 class vtkScalarBarActor;
 class vtkTextActor;
@@ -92,7 +94,17 @@ public:
     // A handle of the active element under the mouse, in host coordinates. With `finished` the host
     // hears of it, and may have deleted this view when the call returns.
     void DragActiveElement(int32_t handle, double x, double y, double z, bool finished);
-    static constexpr int32_t NoHandle = 9999; // a drag ended without a position
+
+    // Draw modes (CWindowDraw.cpp)
+    int32_t SetDrawMode(uint32_t mode);
+    int32_t GetDrawMode(int32_t* mode);
+    // The mouse at a position in VTK's world, (0, 0, 0) for none; nothing happens in the modes that
+    // draw nothing. The last two may finish an element: the host hears of it, and may have deleted
+    // this view when the call returns.
+    void DrawDown(double x, double y, double z);
+    void DrawMove(double x, double y, double z);
+    void DrawUp(double x, double y, double z);
+    void DrawEnd();
 
     // Camera, in VTK's world frame (CWindowCamera.cpp)
     int32_t Camera_AutoSize();
@@ -140,6 +152,7 @@ public:
     vtkScalarBarActor* GetScalarBar() const;
     vtkTextActor* GetPickTextActor() const;
     MyDefaultInteractorStyle* GetDefaultStyle() const;
+    MyDrawMouseInteractorStyle* GetDrawStyle() const;
     CElement_Scene* FindElement(int32_t elementId) const { return Elements.Find(elementId); }
 
 private:
@@ -151,8 +164,19 @@ private:
     ElementSite MakeSite(const ElementDefaults* defaults) const;
     // Null for elements that have no handles.
     CElement_Draggable* FindDraggable(int32_t elementId) const;
-    // The styles forget the handles. Those of an element that stays are switched off before.
+    // No element is active. The handles of one that stays are switched off before.
     void ClearActiveElement();
+    int32_t EnterDrawMode();
+    void LeaveDrawMode();
+    // No style hears the mouse, and none has anything left to end.
+    void TakeOutStyle();
+    // The element that was drawn, if one was, in place of the rubber band.
+    void FinishDrawing();
+    // Both styles know the handles of the active element, or none. Ends a drag under way.
+    void OfferDragTarget(const CElement_Draggable& element);
+    void ClearDragTarget();
+    // Before the mouse means something else: drags and camera motions under way are over.
+    void EndMouseMotion();
     void ShowOrientation();
     void HideOrientation();
     // For the calls that need a scale frame: the change, and a render if it succeeded.
@@ -167,10 +191,12 @@ private:
     vtkSmartPointer<vtkRenderWindow> RenderWindow; // null: not created
     vtkSmartPointer<vtkRenderWindowInteractor> Interactor;
     vtkSmartPointer<MyDefaultInteractorStyle> DefaultStyle;
+    vtkSmartPointer<MyDrawMouseInteractorStyle> DrawStyle; // while a draw mode is on
     // Host coordinates to VTK's world: a host point (x, y, z) lies at (x, -y, z).
     vtkSmartPointer<vtkTransform> SceneTransform;
 
-    int32_t DrawMode = 0; // 0: none
+    int32_t DrawMode = TARVEX_DRAW_NONE;
+    std::unique_ptr<CElement_Drawn> DrawnElement; // there in every draw mode
     double DrawSpace[6] = {-50.0, 50.0, -50.0, 50.0, -50.0, 50.0};
     bool MouseEnabled[3] = {true, true, true}; // left, middle, right with wheel
     int32_t ActiveElementId = -1;

@@ -1,7 +1,9 @@
 // What the mouse may do in a 3D view, and which element it may drag.
 #include "elements3d/CElement_Draggable.h"
 #include "frame/Forwarders.h"
+#include "frame/HostCallback.h"
 #include "interaction3d/MyDefaultInteractorStyle.h"
+#include "interaction3d/MyDrawMouseInteractorStyle.h"
 #include "view3d/CWindow.h"
 
 #include <vtkTextActor.h>
@@ -16,7 +18,7 @@ int32_t CWindow::EnableInteraction(bool enable)
             {
                 return STATUS_DRAW_MODE_ACTIVE;
             }
-            DefaultStyle->EndMotion();
+            EndMouseMotion();
             if (!enable && PickTextWidget)
             {
                 // Off for good: they do not come back with the interaction.
@@ -40,7 +42,7 @@ int32_t CWindow::EnableMouseInteraction(bool left, bool middle, bool right)
             MouseEnabled[0] = left;
             MouseEnabled[1] = middle;
             MouseEnabled[2] = right;
-            DefaultStyle->EndMotion();
+            EndMouseMotion();
             DefaultStyle->SetMouseFlags(left, middle, right);
             // Also after interaction was switched off as a whole.
             Interactor->SetInteractorStyle(DefaultStyle);
@@ -91,9 +93,7 @@ int32_t CWindow::SetActiveElement(int32_t elementId)
                 return STATUS_OK;
             }
             ActiveElementId = elementId;
-            DefaultStyle->SetDragTarget({element->GetHandleActors(), element->GetHandleX(),
-                                         element->GetHandleY(), element->GetHandleZ(),
-                                         ForwardDrag});
+            OfferDragTarget(*element);
             return STATUS_OK;
         });
 }
@@ -106,7 +106,32 @@ CElement_Draggable* CWindow::FindDraggable(int32_t elementId) const
 void CWindow::ClearActiveElement()
 {
     ActiveElementId = -1;
+    ClearDragTarget();
+}
+
+void CWindow::OfferDragTarget(const CElement_Draggable& element)
+{
+    const MyDragInteractorStyle::DragTarget target = {element.GetHandleActors(),
+                                                      element.GetHandleX(), element.GetHandleY(),
+                                                      element.GetHandleZ(), ForwardDrag};
+    DefaultStyle->SetDragTarget(target);
+    DrawStyle->SetDragTarget(target);
+}
+
+void CWindow::ClearDragTarget()
+{
     DefaultStyle->SetDragTarget({});
+    DrawStyle->SetDragTarget({});
+}
+
+void CWindow::EndMouseMotion()
+{
+    DefaultStyle->EndMotion();
+    DrawStyle->EndMotion();
+    if (CElement_Draggable* element = FindDraggable(ActiveElementId))
+    {
+        element->EndDrag();
+    }
 }
 
 void CWindow::DragActiveElement(int32_t handle, double x, double y, double z, bool finished)
@@ -117,27 +142,37 @@ void CWindow::DragActiveElement(int32_t handle, double x, double y, double z, bo
         return;
     }
     int32_t status = STATUS_OK;
-    if (handle != NoHandle)
+    if (handle != MyDragInteractorStyle::NoHandle)
     {
-        status = element->MoveHandle(handle, x, y, z);
-        if (status == STATUS_OK)
-        {
-            RenderWindow->Render();
-        }
+        status = Guarded(LastError,
+                         [&]() -> int32_t
+                         {
+                             const int32_t moved = element->MoveHandle(handle, x, y, z);
+                             if (moved == STATUS_OK)
+                             {
+                                 RenderWindow->Render();
+                             }
+                             return moved;
+                         });
     }
     if (!finished)
     {
         return;
     }
     element->EndDrag();
-    if (status == STATUS_OK && ElementDraggedCallback)
+    if (status == STATUS_OK)
     {
-        // Last: the host may do anything now, also delete this view.
-        ElementDraggedCallback(Id, ActiveElementId);
+        // Last: the view may be gone when the host returns.
+        CallHost(ElementDraggedCallback, Id, ActiveElementId);
     }
 }
 
 MyDefaultInteractorStyle* CWindow::GetDefaultStyle() const
 {
     return DefaultStyle;
+}
+
+MyDrawMouseInteractorStyle* CWindow::GetDrawStyle() const
+{
+    return DrawStyle;
 }

@@ -1,6 +1,7 @@
 // The overlays of a 3D view: the colour scale of one surface, and the position under the mouse.
 #include "frame/Forwarders.h"
 #include "interaction3d/MyDefaultInteractorStyle.h"
+#include "platform/Platform.h"
 #include "view3d/CWindow.h"
 
 #include <vtkActor2DCollection.h>
@@ -203,14 +204,17 @@ void CWindow::UpdatePickText(double x, double y, double z)
     {
         return;
     }
+    std::string text = nothingPicked;
     // The picker reports zeros for nothing.
-    if (x == 0.0 && y == 0.0 && z == 0.0)
+    if (x != 0.0 || y != 0.0 || z != 0.0)
     {
-        PickTextActor->SetInput(nothingPicked);
-        return;
+        const double hostY = 0.0 - y; // never a negative zero
+        text = "X: " + FormatCoordinate(x) + "\nY: " + FormatCoordinate(hostY) +
+               "\nZ: " + FormatCoordinate(z);
     }
-    const double hostY = 0.0 - y; // never a negative zero
-    const std::string text = "X: " + FormatCoordinate(x) + "\nY: " + FormatCoordinate(hostY) +
-                             "\nZ: " + FormatCoordinate(z);
-    PickTextActor->SetInput(text.c_str());
+    if (text != PickTextActor->GetInput())
+    {
+        PickTextActor->SetInput(text.c_str());
+        Platform::RequestRender(RenderWindow);
+    }
 }

@@ -223,7 +223,7 @@ TEST_F(ResizeHandles, ADragReachesTheElementAndItsEndTheHost)
     ForwardDrag(Id, 0, 4, 5, 6, false);
     ForwardDrag(Id, 10, 9, 9, 9, true); // no such handle
     EXPECT_EQ(calls, 0);
-    ForwardDrag(Id, CWindow::NoHandle, 0, 0, 0, true);
+    ForwardDrag(Id, MyDragInteractorStyle::NoHandle, 0, 0, 0, true);
     EXPECT_EQ(calls, 1);
     ExpectCube(cube, {4, 5, 2, 4});
 }
