@@ -37,6 +37,8 @@ CWindow::~CWindow()
     if (Interactor)
     {
         Interactor->SetInteractorStyle(nullptr);
+        // When a callback deletes the view, the event that it came from still holds the window.
+        Platform::CloseWindow(RenderWindow);
     }
     RenderWindow = nullptr;
     Interactor = nullptr;
