@@ -73,6 +73,12 @@ TARVEX_API int32_t TarvexExt_Window_BeginUpdate(int32_t windowId);
  */
 TARVEX_API int32_t TarvexExt_Window_EndUpdate(int32_t windowId);
 
+/** As TarvexExt_Window_BeginUpdate, of a chart view. */
+TARVEX_API int32_t TarvexExt_Window2D_BeginUpdate(int32_t windowId);
+
+/** As TarvexExt_Window_EndUpdate, of a chart view. */
+TARVEX_API int32_t TarvexExt_Window2D_EndUpdate(int32_t windowId);
+
 /**
  * The version of the library, for example "0.1.0". The text is static. Usable at any time.
  */

@@ -39,6 +39,7 @@ public:
 
     // The part of showing that does not draw: in or out of the renderer, clipping range reset.
     virtual int32_t SetInScene(bool inScene);
+    void LeaveView() { SetInScene(false); }
     // SetInScene and a render.
     int32_t Show(bool show);
     // The view's box (xmin, xmax, ymin, ymax, zmin, zmax) has changed; of use to unbounded

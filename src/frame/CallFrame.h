@@ -4,7 +4,9 @@
 //   OnView      a method of the view that the id names
 //   OnElement   a method of an element of that view, with type test and render rule
 //   OnColoring  the same, and the scalar bar of the element takes its new colours
+//   OnChange    a method of a chart element that changes its geometry
 //   OnAdd       a new 3D element: the add sequence, with the defaults of its type
+//   OnAddToChart  a new chart element: the add sequence, and what the axes do then
 //   NotBuilt    declared, exported and answered, but without its feature yet
 #pragma once
 
@@ -45,21 +47,25 @@ int32_t OnViewDo(int32_t windowId, Action&& action)
                    : int32_t{STATUS_NULL_ARGUMENT};
 }
 
-template <class View, class... Parameters, class... Arguments>
-int32_t OnView(int32_t windowId, int32_t (View::*method)(Parameters...), Arguments... arguments)
+template <class View, class Base, class... Parameters, class... Arguments>
+int32_t OnView(int32_t windowId, int32_t (Base::*method)(Parameters...), Arguments... arguments)
 {
     return OnViewDo<View>(windowId, [&](View& view) { return (view.*method)(arguments...); });
 }
+
+// The kind of view that hosts a class of elements.
+template <class Class>
+using ViewOf = std::conditional_t<std::is_base_of_v<CElement_2D, Class>, CWindow2D, CWindow>;
 
 template <class Class, class... Parameters, class... Arguments>
 int32_t OnElement(int32_t windowId, int32_t elementId, Render render,
                   int32_t (Class::*method)(Parameters...), Arguments... arguments)
 {
-    return OnViewDo<CWindow>(
+    return OnViewDo<ViewOf<Class>>(
         windowId,
-        [&](CWindow& view)
+        [&](ViewOf<Class>& view)
         {
-            return view.OnElement<Class>(
+            return view.template OnElement<Class>(
                 elementId, render, [&](Class& element) { return (element.*method)(arguments...); });
         });
 }
@@ -88,6 +94,27 @@ int32_t OnAdd(int32_t windowId, int32_t* elementId, Geometry... geometry)
                                      CWindowManager::Instance->Defaults.Find(Class::Type);
                                  return view.AddElement<Class>(defaults, elementId, geometry...);
                              });
+}
+
+// Another geometry for a chart element.
+template <class Class, class... Parameters, class... Arguments>
+int32_t OnChange(int32_t windowId, int32_t elementId, int32_t (Class::*method)(Parameters...),
+                 Arguments... arguments)
+{
+    return OnViewDo<CWindow2D>(windowId,
+                               [&](CWindow2D& view)
+                               {
+                                   return view.ChangeElement<Class>(
+                                       elementId, [&](Class& element)
+                                       { return (element.*method)(arguments...); });
+                               });
+}
+
+template <class Class, class... Geometry>
+int32_t OnAddToChart(int32_t windowId, ChartFit fit, int32_t* elementId, Geometry... geometry)
+{
+    return OnViewDo<CWindow2D>(windowId, [&](CWindow2D& view)
+                               { return view.AddElement<Class>(fit, elementId, geometry...); });
 }
 
 template <class View>

@@ -36,53 +36,53 @@ int32_t Tarvex_Element_SetDefault(int32_t windowId, int32_t type, double transpa
 int32_t Tarvex_Element_GetCount(int32_t windowId, int32_t* count)
 {
     ClearToZero(count);
-    return OnView(windowId, &CWindow::GetElementCount, count);
+    return OnView<CWindow>(windowId, &CWindow::GetElementCount, count);
 }
 
 int32_t Tarvex_Element_GetIDFromIndex(int32_t windowId, int32_t index, int32_t* elementId)
 {
     ClearToNone(elementId);
-    return OnView(windowId, &CWindow::GetElementIDFromIndex, index, elementId);
+    return OnView<CWindow>(windowId, &CWindow::GetElementIDFromIndex, index, elementId);
 }
 
 int32_t Tarvex_Element_GetType(int32_t windowId, int32_t elementId, int32_t* type)
 {
     ClearToNone(type);
-    return OnView(windowId, &CWindow::GetElementType, elementId, type);
+    return OnView<CWindow>(windowId, &CWindow::GetElementType, elementId, type);
 }
 
 int32_t Tarvex_Element_HasValidValues(int32_t windowId, int32_t elementId, uint8_t* valid)
 {
     ClearToZero(valid);
-    return OnView(windowId, &CWindow::HasValidValues, elementId, valid);
+    return OnView<CWindow>(windowId, &CWindow::HasValidValues, elementId, valid);
 }
 
 int32_t Tarvex_Element_Show(int32_t windowId, int32_t elementId, uint8_t show)
 {
-    return OnView(windowId, &CWindow::ShowElement, elementId, show != 0);
+    return OnView<CWindow>(windowId, &CWindow::ShowElement, elementId, show != 0);
 }
 
 int32_t Tarvex_Element_Remove(int32_t windowId, int32_t elementId)
 {
-    return OnView(windowId, &CWindow::Remove, elementId);
+    return OnView<CWindow>(windowId, &CWindow::Remove, elementId);
 }
 
 int32_t Tarvex_Element_RemoveAll(int32_t windowId)
 {
-    return OnView(windowId, &CWindow::RemoveAll);
+    return OnView<CWindow>(windowId, &CWindow::RemoveAll);
 }
 
 int32_t Tarvex_Element_GetColor(int32_t windowId, int32_t elementId, uint8_t* red, uint8_t* green,
                                 uint8_t* blue)
 {
     ClearToZero(red, green, blue);
-    return OnView(windowId, &CWindow::GetColor, elementId, red, green, blue);
+    return OnView<CWindow>(windowId, &CWindow::GetColor, elementId, red, green, blue);
 }
 
 int32_t Tarvex_Element_SetColor(int32_t windowId, int32_t elementId, uint8_t red, uint8_t green,
                                 uint8_t blue)
 {
-    return OnView(windowId, &CWindow::SetColor, elementId, red, green, blue);
+    return OnView<CWindow>(windowId, &CWindow::SetColor, elementId, red, green, blue);
 }
 
 int32_t Tarvex_Element_GetSize(int32_t windowId, int32_t elementId, double* size)

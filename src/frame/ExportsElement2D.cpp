@@ -2,69 +2,69 @@
 #include "Tarvex.h"
 
 #include "frame/CallFrame.h"
-#include "view2d/CWindow2D.h"
 
 int32_t Tarvex_Element2D_GetCount(int32_t windowId, int32_t* count)
 {
     ClearToZero(count);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::GetElementCount, count);
 }
 
-int32_t Tarvex_Element2D_GetIDFromIndex(int32_t windowId, int32_t /*index*/, int32_t* elementId)
+int32_t Tarvex_Element2D_GetIDFromIndex(int32_t windowId, int32_t index, int32_t* elementId)
 {
     ClearToNone(elementId);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::GetElementIDFromIndex, index, elementId);
 }
 
-int32_t Tarvex_Element2D_GetType(int32_t windowId, int32_t /*elementId*/, int32_t* type)
+int32_t Tarvex_Element2D_GetType(int32_t windowId, int32_t elementId, int32_t* type)
 {
     ClearToNone(type);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::GetElementType, elementId, type);
 }
 
-int32_t Tarvex_Element2D_HasValidValues(int32_t windowId, int32_t /*elementId*/, uint8_t* valid)
+int32_t Tarvex_Element2D_HasValidValues(int32_t windowId, int32_t elementId, uint8_t* valid)
 {
     ClearToZero(valid);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::HasValidValues, elementId, valid);
 }
 
-int32_t Tarvex_Element2D_GetColor(int32_t windowId, int32_t /*elementId*/, uint8_t* red,
-                                  uint8_t* green, uint8_t* blue)
+int32_t Tarvex_Element2D_GetColor(int32_t windowId, int32_t elementId, uint8_t* red, uint8_t* green,
+                                  uint8_t* blue)
 {
     ClearToZero(red, green, blue);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::Never, &CElement_2D::GetColor, red, green, blue);
 }
 
-int32_t Tarvex_Element2D_SetColor(int32_t windowId, int32_t /*elementId*/, uint8_t /*red*/,
-                                  uint8_t /*green*/, uint8_t /*blue*/)
+int32_t Tarvex_Element2D_SetColor(int32_t windowId, int32_t elementId, uint8_t red, uint8_t green,
+                                  uint8_t blue)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::AfterSuccess, &CElement_2D::SetColor, red, green,
+                     blue);
 }
 
-int32_t Tarvex_Element2D_GetSize(int32_t windowId, int32_t /*elementId*/, double* size)
+int32_t Tarvex_Element2D_GetSize(int32_t windowId, int32_t elementId, double* size)
 {
     ClearToZero(size);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::Never, &CElement_2D::GetSize, size);
 }
 
-int32_t Tarvex_Element2D_SetSize(int32_t windowId, int32_t /*elementId*/, double /*size*/)
+int32_t Tarvex_Element2D_SetSize(int32_t windowId, int32_t elementId, double size)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::AfterSuccess, &CElement_2D::SetSize, size);
 }
 
-int32_t Tarvex_Element2D_Show(int32_t windowId, int32_t /*elementId*/, uint8_t /*show*/)
+int32_t Tarvex_Element2D_Show(int32_t windowId, int32_t elementId, uint8_t show)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::Never, &CElement_2D::Show, show != 0);
 }
 
-int32_t Tarvex_Element2D_Remove(int32_t windowId, int32_t /*elementId*/)
+int32_t Tarvex_Element2D_Remove(int32_t windowId, int32_t elementId)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::Remove, elementId);
 }
 
 int32_t Tarvex_Element2D_RemoveAll(int32_t windowId)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::RemoveAll);
 }
 
 int32_t Tarvex_Element2D_Add_ProfileNonUniform_GeneralData(int32_t windowId, const double* /*x*/,

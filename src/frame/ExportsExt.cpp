@@ -17,24 +17,34 @@ int32_t TarvexExt_Window_CopyImage(int32_t windowId, uint8_t* rgb, int32_t capac
                                    int32_t* height)
 {
     ClearToZero(width, height);
-    return OnView(windowId, &CWindow::CopyImage, rgb, capacity, width, height);
+    return OnView<CWindow>(windowId, &CWindow::CopyImage, rgb, capacity, width, height);
 }
 
-int32_t TarvexExt_Window2D_CopyImage(int32_t windowId, uint8_t*, int32_t, int32_t* width,
-                                     int32_t* height)
+int32_t TarvexExt_Window2D_CopyImage(int32_t windowId, uint8_t* rgb, int32_t capacity,
+                                     int32_t* width, int32_t* height)
 {
     ClearToZero(width, height);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::CopyImage, rgb, capacity, width, height);
 }
 
 int32_t TarvexExt_Window_BeginUpdate(int32_t windowId)
 {
-    return OnView(windowId, &CWindow::BeginUpdate);
+    return OnView<CWindow>(windowId, &CWindow::BeginUpdate);
 }
 
 int32_t TarvexExt_Window_EndUpdate(int32_t windowId)
 {
-    return OnView(windowId, &CWindow::EndUpdate);
+    return OnView<CWindow>(windowId, &CWindow::EndUpdate);
+}
+
+int32_t TarvexExt_Window2D_BeginUpdate(int32_t windowId)
+{
+    return OnView<CWindow2D>(windowId, &CWindow2D::BeginUpdate);
+}
+
+int32_t TarvexExt_Window2D_EndUpdate(int32_t windowId)
+{
+    return OnView<CWindow2D>(windowId, &CWindow2D::EndUpdate);
 }
 
 const char* TarvexExt_GetVersion(void)

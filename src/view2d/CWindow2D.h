@@ -1,13 +1,89 @@
-// A chart view. Not built yet: no object of it comes to exist, and every call that names a chart
-// view finds none.
+// One chart view: a chart in a child of the host's window, its mouse style and its elements. The
+// one chart carries the curves and shapes as plots and, below them, the one image of the view.
+// Always used with the global lock held.
 #pragma once
 
-#include "Tarvex.h"
+#include "elements2d/CElement_2D.h"
+#include "frame/CElementView.h"
 
-class CWindow2D
+class MyDefaultInteractorStyle2D;
+class vtkChartHistogram2D;
+class vtkContextScene;
+
+// What follows when an element was added.
+enum class ChartFit
+{
+    Keep,       // the axes stay
+    Fill,       // all elements are in sight
+    KeepAspect, // and a unit is as long in X as in Y
+};
+
+class CWindow2D : public CElementView<CElement_2D>
 {
 public:
-    int32_t Guard() const { return STATUS_NOT_READY; }
+    explicit CWindow2D(int32_t id);
+    ~CWindow2D() override;
 
-    const int32_t Id = -1;
+    int32_t Create(bool noBorders, void* parentWindow, int32_t x, int32_t y, int32_t width,
+                   int32_t height);
+
+    // Range and look (CWindow2DChart.cpp)
+    int32_t ChartAutoScale(bool keepAspect);
+    int32_t SetChartLayout(uint32_t layout);
+    int32_t SetBackgroundColor(uint8_t red, uint8_t green, uint8_t blue);
+    int32_t GetDrawSpace(double* xmin, double* xmax, double* ymin, double* ymax);
+    int32_t SetDrawSpace(double xmin, double xmax, double ymin, double ymax);
+
+    // Elements (CWindow2DElements.cpp)
+    template <class Class, class... Geometry>
+    int32_t AddElement(ChartFit fit, int32_t* elementId, Geometry... geometry);
+    // Another geometry for an element: ends what is being drawn, if its class says so, and renders
+    // whatever the element answers.
+    template <class Class, class Action>
+    int32_t ChangeElement(int32_t elementId, Action&& action);
+    int32_t Remove(int32_t elementId);
+    int32_t RemoveAll();
+    int32_t SetActiveElement(int32_t elementId);
+
+    vtkChartHistogram2D* GetChart() const;
+    MyDefaultInteractorStyle2D* GetDefaultStyle() const;
+
+private:
+    ChartSite MakeSite() const;
+    // The box of all elements that have one; false if none has.
+    bool CollectBounds(double bounds[4]) const;
+    void FitAxes(const double bounds[4], bool keepAspect);
+
+    vtkSmartPointer<vtkChartHistogram2D> Chart;
+    vtkSmartPointer<vtkContextScene> Scene;
+    vtkSmartPointer<MyDefaultInteractorStyle2D> DefaultStyle;
+
+    int32_t ChartLayout = -1;                              // before the first SetChartLayout
+    double DrawSpace[4] = {-50.0, 50.0, -50.0, 50.0};      // xmin, xmax, ymin, ymax
+    static constexpr double StartRange[2] = {-50.0, 50.0}; // of both axes
 };
+
+template <class Class, class... Geometry>
+int32_t CWindow2D::AddElement(ChartFit fit, int32_t* elementId, Geometry... geometry)
+{
+    const auto finish = [&]
+    {
+        if (fit == ChartFit::Keep)
+        {
+            Refresh();
+        }
+        else
+        {
+            ChartAutoScale(fit == ChartFit::KeepAspect);
+        }
+    };
+    return WhenReady([&] { return Append<Class>(MakeSite(), elementId, finish, geometry...); });
+}
+
+template <class Class, class Action>
+int32_t CWindow2D::ChangeElement(int32_t elementId, Action&& action)
+{
+    return OnElement<Class>(elementId, Render::Always,
+                            [&](Class& element)
+                            { return Guarded(LastError, [&] { return action(element); }); });
+}

@@ -3,7 +3,6 @@
 #include "interaction3d/CElement_Drawn.h"
 #include "interaction3d/MyDefaultInteractorStyle.h"
 #include "interaction3d/MyDrawMouseInteractorStyle.h"
-#include "platform/Platform.h"
 #include "view3d/CCoordinateAxes.h"
 #include "view3d/CCubeAxesActor.h"
 #include "view3d/CSceneRenderer.h"
@@ -14,14 +13,7 @@
 #include <vtkTextWidget.h>
 #include <vtkTransform.h>
 
-#include <algorithm>
-
-namespace
-{
-constexpr int32_t leastSize = 4; // pixels
-}
-
-CWindow::CWindow(int32_t id) : Id(id) {}
+CWindow::CWindow(int32_t id) : CElementView(id) {}
 
 CWindow::~CWindow()
 {
@@ -35,15 +27,8 @@ CWindow::~CWindow()
         ClearDragTarget();
     }
     // The native window leaves first, then the elements, which touch neither it nor the renderer.
-    if (Interactor)
-    {
-        Interactor->SetInteractorStyle(nullptr);
-        // When a callback deletes the view, the event that it came from still holds the window.
-        Platform::CloseWindow(RenderWindow);
-    }
+    CloseWindow();
     DrawnElement = nullptr; // still has a renderer to leave
-    RenderWindow = nullptr;
-    Interactor = nullptr;
     DefaultStyle = nullptr;
     DrawStyle = nullptr;
     Renderer = nullptr;
@@ -64,24 +49,9 @@ int32_t CWindow::Create(bool noBorders, void* parentWindow, int32_t x, int32_t y
         LastError,
         [&]() -> int32_t
         {
-            Renderer = vtkSmartPointer<CSceneRenderer>::New();
-            Renderer->SetBackground(0.0, 0.0, 0.0);
-            RenderWindow = Platform::NewRenderWindow();
-            if (noBorders)
-            {
-                RenderWindow->BordersOff();
-            }
-            RenderWindow->AddRenderer(Renderer);
-            RenderWindow->SetParentId(parentWindow);
-            if (x >= 0 && y >= 0)
-            {
-                RenderWindow->SetPosition(x, y);
-            }
-            RenderWindow->SetSize(std::max(width, leastSize), std::max(height, leastSize));
-
-            Interactor = Platform::NewInteractor();
-            Interactor->SetRenderWindow(RenderWindow);
-            Interactor->Initialize();
+            const bool multiSamples = true; // where they cost little
+            MakeWindow(vtkSmartPointer<CSceneRenderer>::New(), noBorders, parentWindow, x, y, width,
+                       height, multiSamples);
             DefaultStyle = vtkSmartPointer<MyDefaultInteractorStyle>::New();
             DefaultStyle->SetWindowId(Id);
             DefaultStyle->SetMouseFlags(MouseEnabled[0], MouseEnabled[1], MouseEnabled[2]);
@@ -91,29 +61,6 @@ int32_t CWindow::Create(bool noBorders, void* parentWindow, int32_t x, int32_t y
 
             SceneTransform = vtkSmartPointer<vtkTransform>::New();
             SceneTransform->Scale(1.0, -1.0, 1.0);
-            return STATUS_OK;
-        });
-}
-
-int32_t CWindow::Guard() const
-{
-    if (!RenderWindow)
-    {
-        return STATUS_NOT_READY;
-    }
-    return RenderWindow->GetGenericWindowId() ? STATUS_OK : STATUS_NO_NATIVE_WINDOW;
-}
-
-int32_t CWindow::UpdateSize(int32_t x, int32_t y, int32_t width, int32_t height)
-{
-    return WhenReady(
-        [&]() -> int32_t
-        {
-            if (x >= 0 && y >= 0)
-            {
-                RenderWindow->SetPosition(x, y);
-            }
-            RenderWindow->SetSize(std::max(width, leastSize), std::max(height, leastSize));
             return STATUS_OK;
         });
 }
@@ -140,53 +87,6 @@ int32_t CWindow::SetBackgroundColor(uint8_t red, uint8_t green, uint8_t blue)
             }
             RenderWindow->Render();
             return status;
-        });
-}
-
-int32_t CWindow::BeginUpdate()
-{
-    return WhenReady(
-        [&]() -> int32_t
-        {
-            Platform::HoldRenders(RenderWindow);
-            return STATUS_OK;
-        });
-}
-
-int32_t CWindow::EndUpdate()
-{
-    return WhenReady(
-        [&]() -> int32_t
-        { return Platform::ReleaseRenders(RenderWindow) ? STATUS_OK : STATUS_NOT_READY; });
-}
-
-int32_t CWindow::RegisterCallback_ElementAdded(Tarvex_ElementAddedCallback callback)
-{
-    ElementAddedCallback = callback;
-    return STATUS_OK;
-}
-
-int32_t CWindow::RegisterCallback_ElementDragged(Tarvex_ElementDraggedCallback callback)
-{
-    ElementDraggedCallback = callback;
-    return STATUS_OK;
-}
-
-int32_t CWindow::CopyImage(uint8_t* rgb, int32_t capacity, int32_t* width, int32_t* height)
-{
-    return WhenReady(
-        [&]() -> int32_t
-        {
-            Platform::GetPictureSize(RenderWindow, width, height);
-            if (!rgb)
-            {
-                return STATUS_OK;
-            }
-            if (capacity < int64_t{3} * *width * *height)
-            {
-                return STATUS_TOO_SMALL;
-            }
-            return Platform::CopyPicture(RenderWindow, rgb) ? STATUS_OK : STATUS_NOT_READY;
         });
 }
 

@@ -4,8 +4,7 @@
 
 #include "Tarvex.h"
 #include "elements3d/CElement_Scene.h"
-#include "frame/CIdList.h"
-#include "frame/Guarded.h"
+#include "frame/CElementView.h"
 
 #include <functional>
 #include <memory>
@@ -31,51 +30,24 @@ class vtkTextWidget;
 
 class vtkTransform;
 
-// When a call on an element draws the view again.
-enum class Render
-{
-    Always,       // whatever the element answered
-    AfterSuccess, // when it answered STATUS_OK
-    Never         // not at all, or the element has drawn by itself
-};
-
-class CWindow
+class CWindow : public CElementView<CElement_Scene>
 {
 public:
     explicit CWindow(int32_t id);
-    ~CWindow();
-    CWindow(const CWindow&) = delete;
-    CWindow& operator=(const CWindow&) = delete;
+    ~CWindow() override;
 
     int32_t Create(bool noBorders, void* parentWindow, int32_t x, int32_t y, int32_t width,
                    int32_t height);
 
-    // The first test of nearly every operation: created, and its native window still there.
-    int32_t Guard() const;
-
-    int32_t UpdateSize(int32_t x, int32_t y, int32_t width, int32_t height);
     int32_t SetBackgroundColor(uint8_t red, uint8_t green, uint8_t blue);
-    // Between them nothing of this view renders; they nest. The last EndUpdate renders once if
-    // anything asked for it. STATUS_NOT_READY for an end without a beginning.
-    int32_t BeginUpdate();
-    int32_t EndUpdate();
-    int32_t RegisterCallback_ElementAdded(Tarvex_ElementAddedCallback callback);
-    int32_t RegisterCallback_ElementDragged(Tarvex_ElementDraggedCallback callback);
-    int32_t CopyImage(uint8_t* rgb, int32_t capacity, int32_t* width, int32_t* height);
 
     // Elements (CWindowElements.cpp)
     template <class Class, class... Geometry>
     int32_t AddElement(const ElementDefaults* defaults, int32_t* elementId, Geometry... geometry);
-    template <class Class, class Action>
-    int32_t OnElement(int32_t elementId, Render render, Action&& action);
     // As OnElement, for calls that may replace an element's colour table: on success the scalar bar
     // of the element takes the new one.
     template <class Class, class Action>
     int32_t OnColoring(int32_t elementId, Render render, Action&& action);
-    int32_t GetElementCount(int32_t* count);
-    int32_t GetElementIDFromIndex(int32_t index, int32_t* elementId);
-    int32_t GetElementType(int32_t elementId, int32_t* type);
-    int32_t HasValidValues(int32_t elementId, uint8_t* valid);
     int32_t ShowElement(int32_t elementId, bool show);
     int32_t Remove(int32_t elementId);
     int32_t RemoveAll();
@@ -89,7 +61,6 @@ public:
     // Interaction (CWindowInteraction.cpp)
     int32_t EnableInteraction(bool enable);
     int32_t EnableMouseInteraction(bool left, bool middle, bool right);
-    int32_t GetActiveElement(int32_t* elementId);
     int32_t SetActiveElement(int32_t elementId);
     // A handle of the active element under the mouse, in host coordinates. With `finished` the host
     // hears of it, and may have deleted this view when the call returns.
@@ -142,23 +113,14 @@ public:
     // A position under the mouse, in VTK's world. Shows with the next render.
     void UpdatePickText(double x, double y, double z);
 
-    const int32_t Id;
-
     // For tests and for those who draw into the view.
-    vtkRenderer* GetRenderer() const { return Renderer; }
-    vtkRenderWindow* GetRenderWindow() const { return RenderWindow; }
-    vtkRenderWindowInteractor* GetInteractor() const { return Interactor; }
     CCubeAxesActor* GetCubeAxes() const;
     vtkScalarBarActor* GetScalarBar() const;
     vtkTextActor* GetPickTextActor() const;
     MyDefaultInteractorStyle* GetDefaultStyle() const;
     MyDrawMouseInteractorStyle* GetDrawStyle() const;
-    CElement_Scene* FindElement(int32_t elementId) const { return Elements.Find(elementId); }
 
 private:
-    // Guard, then the action inside the exception guard.
-    template <class Action>
-    int32_t WhenReady(Action&& action);
     // The camera with everything in front of it visible, then a picture.
     int32_t ShowCamera();
     ElementSite MakeSite(const ElementDefaults* defaults) const;
@@ -186,22 +148,14 @@ private:
     void ShowPickText();
     void HidePickText();
 
-    std::string LastError;
-    vtkSmartPointer<vtkRenderer> Renderer;
-    vtkSmartPointer<vtkRenderWindow> RenderWindow; // null: not created
-    vtkSmartPointer<vtkRenderWindowInteractor> Interactor;
     vtkSmartPointer<MyDefaultInteractorStyle> DefaultStyle;
     vtkSmartPointer<MyDrawMouseInteractorStyle> DrawStyle; // while a draw mode is on
     // Host coordinates to VTK's world: a host point (x, y, z) lies at (x, -y, z).
     vtkSmartPointer<vtkTransform> SceneTransform;
 
-    int32_t DrawMode = TARVEX_DRAW_NONE;
     std::unique_ptr<CElement_Drawn> DrawnElement; // there in every draw mode
     double DrawSpace[6] = {-50.0, 50.0, -50.0, 50.0, -50.0, 50.0};
     bool MouseEnabled[3] = {true, true, true}; // left, middle, right with wheel
-    int32_t ActiveElementId = -1;
-    Tarvex_ElementAddedCallback ElementAddedCallback = nullptr;
-    Tarvex_ElementDraggedCallback ElementDraggedCallback = nullptr;
 
     std::unique_ptr<CCoordinateAxes> CoordinateAxes; // made at the first use, then kept
     vtkSmartPointer<vtkOrientationMarkerWidget> OrientationWidget;
@@ -210,83 +164,18 @@ private:
     int32_t ScalarBarElementId = -1; // -1 only without a bar
     vtkSmartPointer<vtkTextActor> PickTextActor;
     vtkSmartPointer<vtkTextWidget> PickTextWidget;
-
-    int32_t NextElementId = 0; // only goes up
-    CIdList<CElement_Scene> Elements;
 };
-
-template <class Action>
-int32_t CWindow::WhenReady(Action&& action)
-{
-    const int32_t status = Guard();
-    return status == STATUS_OK ? Guarded(LastError, std::forward<Action>(action)) : status;
-}
 
 template <class Class, class... Geometry>
 int32_t CWindow::AddElement(const ElementDefaults* defaults, int32_t* elementId,
                             Geometry... geometry)
 {
+    // An add of a 3D element renders by Show.
     return WhenReady(
-        [&]() -> int32_t
+        [&]
         {
-            Elements.Reserve();
-            auto element = std::make_unique<Class>();
-            // Out of the scene again, unless it reaches the list: also when a step throws.
-            struct Undo
-            {
-                ~Undo()
-                {
-                    if (Added)
-                    {
-                        Added->SetInScene(false);
-                    }
-                }
-                Class* Added;
-            } undo{element.get()};
-
-            int32_t status = element->Initialize(MakeSite(defaults), geometry...);
-            if (status == STATUS_OK)
-            {
-                status = element->BuildPipeline();
-            }
-            if (status == STATUS_OK)
-            {
-                status = element->Show(true);
-            }
-            if (status == STATUS_OK)
-            {
-                undo.Added = nullptr;
-                Elements.Append(std::move(element));
-                *elementId = NextElementId++;
-            }
-            return status;
-        });
-}
-
-template <class Class, class Action>
-int32_t CWindow::OnElement(int32_t elementId, Render render, Action&& action)
-{
-    return WhenReady(
-        [&]() -> int32_t
-        {
-            CElement_Scene* element = Elements.Find(elementId);
-            if (!element)
-            {
-                return STATUS_BAD_INDEX;
-            }
-            if constexpr (!std::is_base_of_v<Class, CElement_Scene>)
-            {
-                if (element->ElementType != Class::Type)
-                {
-                    return STATUS_WRONG_TYPE;
-                }
-            }
-            const int32_t status = action(static_cast<Class&>(*element));
-            if (render == Render::Always || (render == Render::AfterSuccess && status == STATUS_OK))
-            {
-                RenderWindow->Render();
-            }
-            return status;
+            return Append<Class>(
+                MakeSite(defaults), elementId, [] {}, geometry...);
         });
 }
 

@@ -19,44 +19,6 @@ ElementSite CWindow::MakeSite(const ElementDefaults* defaults) const
     return site;
 }
 
-int32_t CWindow::GetElementCount(int32_t* count)
-{
-    *count = Elements.GetCount();
-    return STATUS_OK;
-}
-
-int32_t CWindow::GetElementIDFromIndex(int32_t index, int32_t* elementId)
-{
-    const CElement_Scene* element = Elements.At(index);
-    if (!element)
-    {
-        return STATUS_BAD_INDEX;
-    }
-    *elementId = element->Id;
-    return STATUS_OK;
-}
-
-int32_t CWindow::GetElementType(int32_t elementId, int32_t* type)
-{
-    const CElement_Scene* element = Elements.Find(elementId);
-    if (!element)
-    {
-        return STATUS_BAD_INDEX;
-    }
-    *type = element->ElementType;
-    return STATUS_OK;
-}
-
-int32_t CWindow::HasValidValues(int32_t elementId, uint8_t* valid)
-{
-    return OnElement<CElement_Base>(elementId, Render::Never,
-                                    [&](CElement_Base& element) -> int32_t
-                                    {
-                                        *valid = element.HasValidValues() ? 1 : 0;
-                                        return STATUS_OK;
-                                    });
-}
-
 int32_t CWindow::ShowElement(int32_t elementId, bool show)
 {
     return OnElement<CElement_Scene>(elementId, Render::Never,
@@ -96,7 +58,7 @@ int32_t CWindow::Remove(int32_t elementId)
             {
                 ClearActiveElement();
             }
-            element->SetInScene(false);
+            element->LeaveView();
             Elements.Remove(elementId);
             RenderWindow->Render();
             return STATUS_OK;
@@ -112,7 +74,7 @@ int32_t CWindow::RemoveAll()
             ClearActiveElement();
             for (const std::unique_ptr<CElement_Scene>& element : Elements)
             {
-                element->SetInScene(false);
+                element->LeaveView();
             }
             Elements.Clear();
             RenderWindow->Render();

@@ -50,20 +50,6 @@ int32_t CWindow::EnableMouseInteraction(bool left, bool middle, bool right)
         });
 }
 
-int32_t CWindow::GetActiveElement(int32_t* elementId)
-{
-    return WhenReady(
-        [&]() -> int32_t
-        {
-            if (ActiveElementId >= 0 && !Elements.Find(ActiveElementId))
-            {
-                return STATUS_BAD_INDEX;
-            }
-            *elementId = ActiveElementId;
-            return STATUS_OK;
-        });
-}
-
 int32_t CWindow::SetActiveElement(int32_t elementId)
 {
     constexpr double handleRadius = 0.05; // scene units

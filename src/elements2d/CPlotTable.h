@@ -1,0 +1,36 @@
+// The points of a plot as the chart takes them: a table of two columns of floats.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <vtkFloatArray.h>
+#include <vtkNew.h>
+#include <vtkTable.h>
+
+class CPlotTable
+{
+public:
+    // `name` names the column of Y, which the chart shows in legend and tooltips.
+    explicit CPlotTable(const std::string& name);
+
+    // Makes room and gives the columns to be filled; Filled must follow.
+    struct Columns
+    {
+        float* X;
+        float* Y;
+
+        // A value that a float cannot hold makes a gap.
+        void Write(int32_t row, double x, double y) const;
+    };
+    Columns Resize(int32_t rows);
+    // Plots on this table take the new values with the next render.
+    void Filled() { Table->Modified(); }
+
+    vtkTable* GetTable() const { return Table; }
+
+private:
+    vtkNew<vtkFloatArray> X;
+    vtkNew<vtkFloatArray> Y;
+    vtkNew<vtkTable> Table;
+};

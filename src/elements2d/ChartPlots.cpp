@@ -1,0 +1,4 @@
+#include "elements2d/ChartPlots.h"
+
+vtkStandardNewMacro(CLinePlot);
+vtkStandardNewMacro(CPointsPlot);
