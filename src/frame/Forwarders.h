@@ -5,7 +5,8 @@
 #include <cstdint>
 
 void ForwardPick(int32_t windowId, double x, double y, double z);
-// `handle` is MyDragInteractorStyle::NoHandle when the button went up where no position could be found.
+// `handle` is MyDragInteractorStyle::NoHandle when the button went up where no position could be
+// found.
 void ForwardDrag(int32_t windowId, int32_t handle, double x, double y, double z, bool finished);
 // Positions under the mouse in a draw mode, in VTK's world; all 0 where nothing was hit.
 void ForwardDrawDown(int32_t windowId, double x, double y, double z);

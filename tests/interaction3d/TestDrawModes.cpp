@@ -108,16 +108,11 @@ protected:
         Tarvex_Window_Camera_SetPredefinedView(Id, front ? TARVEX_VIEW_FRONT : TARVEX_VIEW_TOP);
         Tarvex_Window_Camera_SetPosition(Id, 0, front ? -105 : 0, front ? 0 : 102);
     }
-    void Go(Pixel to)
-    {
-        Host.MoveMouse(Native, Pixels / 2 + to.X, Pixels / 2 - 1 - to.Y);
-        Settle();
-    }
+    void Go(Pixel to) { Host.MoveMouse(Native, Pixels / 2 + to.X, Pixels / 2 - 1 - to.Y); }
     void Click(unsigned button)
     {
         Host.Press(button);
         Host.Release(button);
-        Settle();
     }
     // Up to where the left button is held at the last point.
     void Begin(const std::vector<Pixel>& points)
@@ -133,17 +128,17 @@ protected:
             {
                 Host.Release(1);
             }
-            Settle();
         }
+        Settle();
     }
     void Finish(const std::vector<Pixel>& points)
     {
         Host.Release(1);
-        Settle();
         if (points.size() > 2)
         {
             Click(3);
         }
+        Settle();
     }
     void Draw(const std::vector<Pixel>& points)
     {
@@ -254,26 +249,42 @@ TEST_F(DrawModes, DropWhatWasBegunInAnotherMode)
         EXPECT_EQ(Tarvex_Window_SetDrawMode(Id, next), STATUS_OK);
         Go({0, 20});
         Host.Release(1);
-        Settle();
         Click(3);
+        Settle();
         EXPECT_EQ(CountYellow() + CountElements(), 0U);
     }
     EXPECT_EQ(Tarvex_Window_SetDrawMode(Id, 8), STATUS_OUT_OF_RANGE);
     EXPECT_EQ(Read(Tarvex_Window_GetDrawMode), Numbers{0});
 }
 
-TEST_F(DrawModes, ConcernOneView)
+TEST_F(DrawModes, ConcernOneViewEach)
 {
-    int32_t other = TARVEX_NONE;
-    Tarvex_Window_Create(Host.Handle(), 1, Pixels, 0, Pixels, Pixels, &other);
-    Tarvex_Window_SetDrawMode(other, TARVEX_DRAW_POLYGON);
+    // On the right, over a quarter of the first one.
+    const int32_t first = std::exchange(Id, TARVEX_NONE);
+    Tarvex_Window_Create(Host.Handle(), 1, Pixels * 3 / 4, 0, Pixels, Pixels, &Id);
+    Prepare();
+    Enter(drawCases[4]);
+    const std::vector<Pixel> left = {{-70, 0}, {-55, 0}, {-60, 20}};
+    Begin(left);
+    const int32_t second = std::exchange(Id, first);
+    Host.Release(1);
+    Native = NativeOf(Id);
     Enter(drawCases[1]);
     Draw(drawCases[1].Points);
     EXPECT_EQ(CountElements(), 1U);
-    int32_t count = -1;
-    Tarvex_Element_GetCount(other, &count);
-    EXPECT_EQ(count, 0);
-    Tarvex_Window_Delete(other);
+    Id = second;
+    Native = NativeOf(Id);
+    EXPECT_EQ(CountElements(), 0U);
+    Go(left[0]);
+    Click(3);
+    Settle();
+    EXPECT_EQ(CountElements(), 1U);
+    Enter(drawCases[4]);
+    Begin(left);
+    Tarvex_Window_Delete(Id);
+    Finish(left);
+    Id = first;
+    EXPECT_EQ(CountElements(), 1U);
 }
 
 TEST_F(DrawModes, DrawNothingInAnUnusableSpace)
