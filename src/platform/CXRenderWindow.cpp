@@ -257,9 +257,10 @@ void CXRenderWindow::MarkLost()
 void CXRenderWindow::Close()
 {
     XErrorTrap trap;
-    if (IsConnected())
+    if (IsConnected() && Native && !Lost)
     {
         XDestroyWindow(DisplayId, Native);
+        XSync(DisplayId, False);
     }
     MarkLost();
 }

@@ -30,6 +30,8 @@ public:
 vtkSmartPointer<vtkRenderWindow> NewRenderWindow();
 // Initialize creates the native window and does not render.
 vtkSmartPointer<vtkRenderWindowInteractor> NewInteractor();
+// The native window goes now, and not when whoever handles an event lets go of its objects.
+void CloseWindow(vtkRenderWindow* window);
 
 // The size of the last rendered picture; of the window, before the first one.
 void GetPictureSize(vtkRenderWindow* window, int32_t* width, int32_t* height);

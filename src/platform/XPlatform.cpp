@@ -179,6 +179,13 @@ vtkSmartPointer<vtkRenderWindowInteractor> NewInteractor()
     return vtkNew<CXInteractor>();
 }
 
+void CloseWindow(vtkRenderWindow* window)
+{
+    // Frees what OpenGL holds while the window is there.
+    window->Finalize();
+    CXRenderWindow::SafeDownCast(window)->Close();
+}
+
 void GetPictureSize(vtkRenderWindow* window, int32_t* width, int32_t* height)
 {
     CXRenderWindow::SafeDownCast(window)->GetPictureSize(width, height);

@@ -38,6 +38,8 @@ CWindow::~CWindow()
     if (Interactor)
     {
         Interactor->SetInteractorStyle(nullptr);
+        // When a callback deletes the view, the event that it came from still holds the window.
+        Platform::CloseWindow(RenderWindow);
     }
     DrawnElement = nullptr; // still has a renderer to leave
     RenderWindow = nullptr;

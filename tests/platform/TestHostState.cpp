@@ -11,7 +11,6 @@
 #include <GL/glx.h>
 #include <X11/Xlib.h>
 #include <X11/cursorfont.h>
-#include <X11/extensions/Xfixes.h>
 
 #include <array>
 #include <atomic>
@@ -26,15 +25,6 @@ int hostErrors = 0;
 int CountHostError(Display*, XErrorEvent*)
 {
     return ++hostErrors;
-}
-
-// The shape of the mouse pointer as the server draws it.
-std::vector<unsigned long> CursorPixels(const TestHost& host)
-{
-    XFixesCursorImage* image = XFixesGetCursorImage(host.Connection);
-    std::vector<unsigned long> pixels(image->pixels, image->pixels + image->width * image->height);
-    XFree(image);
-    return pixels;
 }
 } // namespace
 
@@ -106,16 +96,16 @@ TEST(HostState, CursorOfAViewChangesWithoutAnotherCall)
     {
         XDefineCursor(host.Connection, sample, XCreateFontCursor(host.Connection, glyph));
         host.MoveMouse(sample, 20, 20);
-        const std::vector<unsigned long> expected = CursorPixels(host);
+        const std::vector<unsigned long> expected = host.TakeCursor();
         host.MoveMouse(NativeOf(view.Id), 50, 50);
-        EXPECT_NE(CursorPixels(host), expected);
+        EXPECT_NE(host.TakeCursor(), expected);
         Inside(view.Id, [shape = shape](CWindow& window)
                { window.GetRenderWindow()->SetCurrentCursor(shape); });
-        for (int wait = 0; wait < 100 && CursorPixels(host) != expected; ++wait)
+        for (int wait = 0; wait < 100 && host.TakeCursor() != expected; ++wait)
         {
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
-        EXPECT_EQ(CursorPixels(host), expected);
+        EXPECT_EQ(host.TakeCursor(), expected);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
+#include <X11/extensions/Xfixes.h>
 
 #include <stdexcept>
 
@@ -75,6 +76,14 @@ Picture TestHost::TakeScreen(NativeWindow window) const
     }
     XDestroyImage(image);
     return picture;
+}
+
+std::vector<unsigned long> TestHost::TakeCursor() const
+{
+    XFixesCursorImage* image = XFixesGetCursorImage(Connection);
+    std::vector<unsigned long> pixels(image->pixels, image->pixels + image->width * image->height);
+    XFree(image);
+    return pixels;
 }
 
 void TestHost::Destroy()

@@ -29,6 +29,8 @@ public:
     std::array<int, 4> Placement(NativeWindow window) const;
     // What the screen shows there.
     Picture TakeScreen(NativeWindow window) const;
+    // The shape of the mouse pointer as the server draws it.
+    std::vector<unsigned long> TakeCursor() const;
     void Destroy();
     // Closes the host's connection without another word, as a dying host does.
     void CloseConnection();

@@ -1,0 +1,434 @@
+// What the mouse does to a 3D view: hover, handles, the drawing gestures, and hosts that do
+// anything while they hear of it.
+#include "TarvexExt.h"
+#include "elements3d/CElement_Draggable.h"
+#include "interaction3d/MyDefaultInteractorStyle.h"
+#include "interaction3d/MyDrawMouseInteractorStyle.h"
+#include "platform/Inside.h"
+#include "support/ViewFixture.h"
+
+#include <atomic>
+#include <thread>
+#include <vtkActorCollection.h>
+#include <vtkTextActor.h>
+
+// After the others, whose names Xlib's macros would break.
+#include <GL/glx.h>
+
+namespace
+{
+struct Pixel
+{
+    int X;
+    int Y;
+};
+
+// What the host heard, and what it does then.
+std::string heard;
+std::function<void()> answer;
+
+void Dragged(int32_t windowId, int32_t elementId)
+{
+    heard += std::to_string(windowId) + ":" + std::to_string(elementId) + " ";
+    EXPECT_EQ(glXGetCurrentContext(), nullptr);
+    if (answer)
+    {
+        answer();
+    }
+}
+
+class MouseStyles : public ViewFixture
+{
+protected:
+    MouseStyles()
+    {
+        heard.clear();
+        answer = nullptr;
+        LookDown();
+        Tarvex_Window_RegisterCallback_ElementDragged(Id, Dragged);
+        Settle();
+    }
+
+    // As LookDown, but near enough for handles of a few pixels.
+    void LookClosely() const
+    {
+        LookDown();
+        EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 0, 0, 12), STATUS_OK);
+    }
+    int32_t AddActive(const Export& add, const Numbers& values) const
+    {
+        const int32_t element = Add(add, values);
+        LookClosely();
+        EXPECT_EQ(Tarvex_Window_SetActiveElement(Id, element), STATUS_OK);
+        View().GetRenderWindow()->Render();
+        return element;
+    }
+    int32_t AddActiveCube(double x = 0) const
+    {
+        return AddActive(Tarvex_Element_Add_Cube, {x, 0, 0, 1, 1, 1, 0, 1});
+    }
+    CWindow& View() const
+    {
+        CWindow* found = nullptr;
+        Inside(Id, [&](CWindow& view) { found = &view; });
+        return *found;
+    }
+    // Where a host position is seen, from the upper left corner.
+    Pixel PixelOf(const Vector3& host) const
+    {
+        vtkRenderer* renderer = View().GetRenderer();
+        renderer->SetWorldPoint(host[0], -host[1], host[2], 1.0);
+        renderer->WorldToDisplay();
+        const double* display = renderer->GetDisplayPoint();
+        return {static_cast<int>(std::lround(display[0])),
+                Pixels - 1 - static_cast<int>(std::lround(display[1]))};
+    }
+    Vector3 HandleAt(int32_t element, int32_t handle) const
+    {
+        const auto* shape = dynamic_cast<CElement_Draggable*>(View().FindElement(element));
+        return {shape->GetHandleX()[handle], shape->GetHandleY()[handle],
+                shape->GetHandleZ()[handle]};
+    }
+    // What the host hears of one drag.
+    std::string Told(int32_t element) const
+    {
+        return std::to_string(Id) + ":" + std::to_string(element) + " ";
+    }
+    void MoveTo(const Pixel& at)
+    {
+        Host.MoveMouse(Native(), at.X, at.Y);
+        Settle();
+    }
+    void Click(unsigned button, bool press)
+    {
+        press ? Host.Press(button) : Host.Release(button);
+        Settle();
+    }
+    void DragBy(const Pixel& from, int dx, int dy)
+    {
+        Host.Drag(Native(), 1, from.X, from.Y, from.X + dx, from.Y + dy);
+    }
+    // By the handle in the middle of its upper face.
+    void DragCube(int32_t cube) { DragBy(PixelOf(HandleAt(cube, 1)), 20, 10); }
+    double CubeX(int32_t cube) const { return Read(Tarvex_Element_Cube_GetValue, cube)[0]; }
+    int CountActors() const { return View().GetRenderer()->GetActors()->GetNumberOfItems(); }
+    NativeWindow Native() const { return NativeOf(Id); }
+};
+} // namespace
+
+TEST_F(MouseStyles, DragAHandleOfEachKindByAsMuchAsTheMouse)
+{
+    const auto addPolyhedron = [](int32_t view, int32_t* id)
+    {
+        const double x[] = {0, 1, 0};
+        const double y[] = {0, 0, 1};
+        const double z[] = {0, 0, 0};
+        return Tarvex_Element_Add_Polyhedron(view, 3, x, y, z, 0, 0, 1, 2, id);
+    };
+    const struct
+    {
+        Export Add;
+        Numbers Values;
+        int32_t Handle;
+    } cases[] = {{Tarvex_Element_Add_Cube, {0.5, 0, 0, 2, 1, 2, 0, 1}, 1},
+                 {Tarvex_Element_Add_Cube, {0.5, 0, 0, 2, 1, 2, 30, 1}, 6},
+                 {Tarvex_Element_Add_Cylinder, {0, 0, -1, 0, 0, 1, 0.5}, 1},
+                 {+addPolyhedron, {}, 1}};
+    for (const auto& way : cases)
+    {
+        SCOPED_TRACE(&way - cases);
+        const int32_t element = AddActive(way.Add, way.Values);
+        const Vector3 before = HandleAt(element, way.Handle);
+        const Pixel from = PixelOf(before);
+        heard.clear();
+        DragBy(from, 24, -12);
+        const Vector3 after = HandleAt(element, way.Handle);
+        const Pixel now = PixelOf(after);
+        EXPECT_EQ(now.X, from.X + 24);
+        EXPECT_EQ(now.Y, from.Y - 12);
+        EXPECT_EQ(after[2], before[2]);
+        EXPECT_EQ(heard, Told(element));
+        EXPECT_EQ(Tarvex_Element_Remove(Id, element), STATUS_OK);
+    }
+}
+
+TEST_F(MouseStyles, ShowWhatTheyHoverOver)
+{
+    const int32_t cube = AddActive(Tarvex_Element_Add_Cube, {0, 0, 0.5, 3, 3, 1, 0, 0});
+    const auto cursorAt = [&](const Pixel& at)
+    {
+        MoveTo(at);
+        return Host.TakeCursor();
+    };
+    RenderCounter renders(Id);
+    const Pixel handle = PixelOf(HandleAt(cube, 1));
+    const auto arrow = cursorAt({3, 3});
+    EXPECT_NE(cursorAt(handle), arrow);
+    EXPECT_EQ(cursorAt({handle.X + 10, handle.Y}), arrow);
+    EXPECT_EQ(renders.Count, 0);
+
+    ASSERT_EQ(Tarvex_Window_SetActiveElement(Id, -1), STATUS_OK);
+    ASSERT_EQ(Tarvex_Window_PickCoordinates_Show(Id, 1), STATUS_OK);
+    const Picture plain = TakePicture(Id);
+    const int actors = CountActors();
+    for (const Vector3& host : {Vector3{0.7, 0.6, 1.0}, Vector3{-0.4, 0.3, 1.0}})
+    {
+        const Pixel at = PixelOf(host);
+        renders.Count = 0;
+        MoveTo(at);
+        EXPECT_EQ(renders.Count, 1);
+        Vector3 read = {};
+        ASSERT_EQ(std::sscanf(View().GetPickTextActor()->GetInput(), "X: %lf Y: %lf Z: %lf",
+                              &read[0], &read[1], &read[2]),
+                  3);
+        for (size_t axis = 0; axis < 3; ++axis)
+        {
+            EXPECT_NEAR(read[axis], host[axis], 0.04) << axis;
+        }
+        EXPECT_EQ(CountActors(), actors + 1);
+        EXPECT_NE(TakePicture(Id).At(at.X, at.Y), plain.At(at.X, at.Y));
+    }
+    renders.Count = 0;
+    MoveTo({3, 150});
+    MoveTo({5, 150});
+    EXPECT_EQ(renders.Count, 1); // nothing has changed with the second move
+    EXPECT_EQ(CountActors(), actors);
+    EXPECT_STREQ(View().GetPickTextActor()->GetInput(), "X:\nY:\nZ:");
+}
+
+TEST_F(MouseStyles, EndADragWhereTheHandleWasSeenLast)
+{
+    const int32_t cube = AddActiveCube();
+    const Pixel from = PixelOf(HandleAt(cube, 1));
+    // Out of the window: nothing is there to be met.
+    Host.Drag(Native(), 1, from.X, from.Y, -8, from.Y, 4);
+    EXPECT_EQ(heard, Told(cube));
+    const double left = CubeX(cube);
+    EXPECT_LT(left, -1.0);
+    EXPECT_EQ(PixelOf(HandleAt(cube, 1)).X, from.X + 3 * (-8 - from.X) / 4);
+
+    // Above the horizon the plane of the drag is never met.
+    heard.clear();
+    ASSERT_EQ(Tarvex_Window_Camera_SetViewDirection(Id, 0, 1, 0, 0, 0, 1), STATUS_OK);
+    ASSERT_EQ(Tarvex_Window_Camera_SetPosition(Id, left, -12, 1.0), STATUS_OK);
+    const Vector3 before = HandleAt(cube, 1);
+    const Pixel seen = PixelOf(before);
+    Host.Drag(Native(), 1, seen.X, seen.Y, seen.X, 60, 1);
+    EXPECT_EQ(heard, Told(cube));
+    EXPECT_EQ(HandleAt(cube, 1), before);
+}
+
+TEST_F(MouseStyles, TakeASecondPressForAnother)
+{
+    const int32_t cube = AddActiveCube();
+    const Pixel handle = PixelOf(HandleAt(cube, 1));
+    MoveTo(handle);
+    for (const bool press : {true, false, true})
+    {
+        Click(1, press);
+    }
+    MoveTo({handle.X + 15, handle.Y});
+    Click(1, false);
+    EXPECT_EQ(heard, Told(cube) + Told(cube));
+    EXPECT_EQ(PixelOf(HandleAt(cube, 1)).X, handle.X + 15);
+}
+
+TEST_F(MouseStyles, DropADragWhenItsTargetGoes)
+{
+    const int32_t other = AddActiveCube(1.5);
+    const struct
+    {
+        const char* Name;
+        std::function<void(int32_t)> Act;
+    } cases[] = {
+        {"none active", [&](int32_t) { Tarvex_Window_SetActiveElement(Id, -1); }},
+        {"another active", [&](int32_t) { Tarvex_Window_SetActiveElement(Id, other); }},
+        {"removed", [&](int32_t cube) { Tarvex_Element_Remove(Id, cube); }},
+        {"switched off", [&](int32_t) { Tarvex_Window_EnableInteraction(Id, 0); }},
+        {"switched on", [&](int32_t) { Tarvex_Window_EnableMouseInteraction(Id, 1, 1, 1); }}};
+    for (const auto& way : cases)
+    {
+        SCOPED_TRACE(way.Name);
+        const int32_t cube = AddActiveCube(-0.5);
+        heard.clear();
+        const Pixel from = PixelOf(HandleAt(cube, 1));
+        const int actors = CountActors();
+        MoveTo(from);
+        Click(1, true);
+        EXPECT_EQ(CountActors(), actors + 1);
+        MoveTo({from.X + 5, from.Y});
+        const double moved = CubeX(cube);
+        EXPECT_GT(moved, -0.5);
+        way.Act(cube);
+        EXPECT_LE(CountActors(), actors);
+        const Picture before = TakePicture(Id);
+        MoveTo({from.X + 15, from.Y + 8});
+        Click(1, false);
+        MoveTo({from.X + 40, from.Y});
+        EXPECT_EQ(heard, "");
+        EXPECT_EQ(TakePicture(Id).CountDifferences(before), 0);
+        Tarvex_Window_EnableInteraction(Id, 1);
+        Tarvex_Element_Remove(Id, cube);
+    }
+}
+
+TEST_F(MouseStyles, LetTheHostDoAnythingWhenAnElementWasDragged)
+{
+    int32_t cube = TARVEX_NONE;
+    const int32_t other = AddActiveCube(1.5);
+    const struct
+    {
+        const char* Name;
+        std::function<void()> Act;
+    } cases[] = {
+        {"draw mode", [&] { Tarvex_Window_SetDrawMode(Id, 0); }},
+        {"raises", [] { throw std::runtime_error("the host's own"); }},
+        {"another active", [&] { Tarvex_Window_SetActiveElement(Id, other); }},
+        {"pumps", [] { TarvexExt_ProcessEvents(); }},
+        {"removed", [&] { Tarvex_Element_Remove(Id, cube); }},
+        {"all removed", [&] { Tarvex_Element_RemoveAll(Id); }},
+        {"deleted",
+         [&]
+         {
+             EXPECT_EQ(Tarvex_Window_Delete(Id), STATUS_OK);
+             EXPECT_EQ(Host.Children().size(), 0U);
+         }},
+    };
+    for (const auto& way : cases)
+    {
+        SCOPED_TRACE(way.Name);
+        cube = AddActiveCube(-0.5);
+        heard.clear();
+        answer = [&]
+        {
+            way.Act();
+            EXPECT_EQ(glXGetCurrentContext(), nullptr);
+        };
+        DragCube(cube);
+        EXPECT_EQ(heard, Told(cube));
+        // Nothing hangs on to the mouse, and the view is as usable as before.
+        const bool gone = Host.Children().empty();
+        const Picture before = gone ? Picture() : TakePicture(Id);
+        Host.MoveMouse(Host.Native, 50, 60);
+        Settle();
+        Host.MoveMouse(Host.Native, 90, 20);
+        Settle();
+        if (!gone)
+        {
+            EXPECT_EQ(TakePicture(Id).CountDifferences(before), 0);
+            answer = nullptr;
+            cube = AddActiveCube(-0.5);
+            heard.clear();
+            DragCube(cube);
+            EXPECT_EQ(heard, Told(cube));
+        }
+    }
+}
+
+TEST_F(MouseStyles, OfTwoViewsKeepTheirOwnElements)
+{
+    const int32_t first = AddActiveCube(0.5);
+    XResizeWindow(Host.Connection, Host.Native, 2 * Pixels, Pixels);
+    int32_t others = TARVEX_NONE;
+    ASSERT_EQ(Tarvex_Window_Create(Host.Handle(), 1, Pixels, 0, Pixels, Pixels, &others),
+              STATUS_OK);
+    const int32_t firsts = std::exchange(Id, others);
+    Tarvex_Window_RegisterCallback_ElementDragged(Id, Dragged);
+    const int32_t second = AddActiveCube(-0.5);
+    DragCube(second);
+    EXPECT_EQ(heard, Told(second));
+    EXPECT_GT(CubeX(second), -0.5);
+    Id = firsts;
+    EXPECT_EQ(CubeX(first), 0.5);
+    heard.clear();
+    DragCube(first);
+    EXPECT_EQ(heard, Told(first));
+    EXPECT_EQ(Tarvex_Window_Delete(others), STATUS_OK);
+}
+
+TEST_F(MouseStyles, WorkWhileAnotherThreadCalls)
+{
+    const int32_t cube = AddActiveCube();
+    ASSERT_EQ(Tarvex_Window_PickCoordinates_Show(Id, 1), STATUS_OK);
+    std::atomic<bool> stop = false;
+    std::atomic<int> calls = 0;
+    std::thread caller(
+        [&]
+        {
+            for (uint8_t red = 0; !stop; ++red)
+            {
+                const bool fine = Tarvex_Window_SetBackgroundColor(Id, red, 0, 0) == STATUS_OK &&
+                                  Tarvex_Element_SetColor(Id, cube, 200, red, 0) == STATUS_OK &&
+                                  Tarvex_Window_PickCoordinates_Show(Id, red % 2) == STATUS_OK;
+                calls += fine ? 1 : -1000000;
+            }
+        });
+    for (int drag = 0; drag < 4; ++drag)
+    {
+        DragCube(cube);
+    }
+    stop = true;
+    caller.join();
+    EXPECT_GT(calls, 10);
+    EXPECT_EQ(heard, Told(cube) + Told(cube) + Told(cube) + Told(cube));
+}
+
+TEST_F(MouseStyles, TurnPressesIntoDrawingGestures)
+{
+    const int32_t cube = AddActive(Tarvex_Element_Add_Cube, {0, 0, 0, 2, 2, 1, 0, 0});
+    static std::string log;
+    const struct
+    {
+        bool MultiClick;
+        const char* Mouse; // h: move to the other half of the cube, b: beside it, H: to the handle,
+                           // p and r: left down and up, e: a click of the right button
+        const char* Drawn; // Down, Move, Up, End, and g for a dragged handle
+    } cases[] = {
+        {false, "hphhrh", "DMMU"},   {false, "bphr", ""},         {false, "hpehr", "DE"},
+        {false, "hpbr", "DMU"},      {false, "Hphr", "g"},        {false, "hpHrhe", "DMUE"},
+        {true, "hprhpre", "DUMDUE"}, {true, "hprHpre", "DUMDUE"}, {true, "hprbpre", "DUMUE"}};
+    Inside(Id,
+           [](CWindow& view)
+           {
+               MyDrawMouseInteractorStyle* style = view.GetDrawStyle();
+               style->SetDownForwarder([](int32_t, double, double, double) { log += 'D'; });
+               style->SetMoveForwarder([](int32_t, double, double, double) { log += 'M'; });
+               style->SetUpForwarder([](int32_t, double, double, double) { log += 'U'; });
+               style->SetEndForwarder([](int32_t) { log += 'E'; });
+               style->SetMouseFlags(false, true, false);
+               view.GetInteractor()->SetInteractorStyle(style);
+           });
+    answer = [] { log += 'g'; };
+    for (const auto& way : cases)
+    {
+        SCOPED_TRACE(testing::Message() << way.MultiClick << " " << way.Mouse);
+        log.clear();
+        View().GetDrawStyle()->SetMultiClick(way.MultiClick);
+        int moves = 0;
+        for (const char* step = way.Mouse; *step; ++step)
+        {
+            const Pixel middle = PixelOf(HandleAt(cube, 1));
+            switch (*step)
+            {
+            case 'h':
+                MoveTo({middle.X + (++moves % 2 ? 12 : -12), middle.Y - 9});
+                break;
+            case 'b':
+                MoveTo({4, 4});
+                break;
+            case 'H':
+                MoveTo(middle);
+                break;
+            case 'e':
+                Click(3, true);
+                Click(3, false);
+                break;
+            default:
+                Click(1, *step == 'p');
+                break;
+            }
+        }
+        EXPECT_EQ(log, way.Drawn);
+        LookClosely();
+    }
+}
