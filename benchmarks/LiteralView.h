@@ -23,6 +23,8 @@ public:
     void FrameAll() override;
     void Look(const std::array<double, 3>& direction) override;
 
+    vtkRenderer* GetRenderer() const { return Renderer; }
+
 private:
     void Render();
 

@@ -2,14 +2,34 @@
 
 #include "interaction3d/CScenePicker.h"
 
-#include <vtkActor.h>
 #include <vtkMath.h>
+#include <vtkObjectFactory.h>
+#include <vtkOpenGLActor.h>
 #include <vtkPlaneSource.h>
 #include <vtkPolyDataMapper.h>
 #include <vtkProperty.h>
 #include <vtkRenderer.h>
 
-CCatcherPlane::CCatcherPlane()
+namespace
+{
+// Drawn for a picker only. In a picture nothing would be seen of it, but a single translucent actor
+// makes VTK blend the whole picture from two buffers, 25 ms more for each on a processor.
+class PickOnlyActor : public vtkOpenGLActor
+{
+public:
+    static PickOnlyActor* New();
+    vtkTypeMacro(PickOnlyActor, vtkOpenGLActor);
+
+    vtkTypeBool HasTranslucentPolygonalGeometry() override { return 0; }
+
+protected:
+    PickOnlyActor() = default;
+    ~PickOnlyActor() override = default;
+};
+vtkStandardNewMacro(PickOnlyActor);
+} // namespace
+
+CCatcherPlane::CCatcherPlane() : Actor(vtkSmartPointer<PickOnlyActor>::New())
 {
     const vtkNew<vtkPolyDataMapper> mapper;
     mapper->SetInputConnection(Source->GetOutputPort());

@@ -5,6 +5,7 @@
 #include "elements3d/Directions.h"
 
 #include <vtkNew.h>
+#include <vtkSmartPointer.h>
 #include <vtkWeakPointer.h>
 
 class vtkActor;
@@ -38,7 +39,7 @@ public:
 
 private:
     vtkNew<vtkPlaneSource> Source;
-    vtkNew<vtkActor> Actor;
+    vtkSmartPointer<vtkActor> Actor;
     // Where the plane is now. Weak: a view may go before its styles.
     vtkWeakPointer<vtkRenderer> Renderer;
 };

@@ -16,9 +16,10 @@ vtkStandardNewMacro(MyDefaultInteractorStyle);
 MyDefaultInteractorStyle::MyDefaultInteractorStyle()
 {
     constexpr double markerRadius = 0.04; // scene units
+    const vtkNew<vtkSphereSource> sphere;
     const vtkNew<vtkPolyDataMapper> mapper;
-    MarkerSource->SetRadius(markerRadius);
-    mapper->SetInputConnection(MarkerSource->GetOutputPort());
+    sphere->SetRadius(markerRadius);
+    mapper->SetInputConnection(sphere->GetOutputPort());
     MarkerActor->SetMapper(mapper);
     MarkerActor->PickableOff();
 }
@@ -49,12 +50,12 @@ void MyDefaultInteractorStyle::FollowMouse()
 
 void MyDefaultInteractorStyle::ShowMarker(const Vector3& position)
 {
-    const double* shown = MarkerSource->GetCenter();
+    const double* shown = MarkerActor->GetPosition();
     if (MarkerRenderer && std::equal(position.begin(), position.end(), shown))
     {
         return;
     }
-    MarkerSource->SetCenter(position[0], position[1], position[2]);
+    MarkerActor->SetPosition(position[0], position[1], position[2]);
     if (!MarkerRenderer)
     {
         MarkerRenderer = GetViewRenderer();

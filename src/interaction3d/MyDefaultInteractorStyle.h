@@ -6,8 +6,6 @@
 
 #include <vtkWeakPointer.h>
 
-class vtkSphereSource;
-
 class MyDefaultInteractorStyle : public MyDragInteractorStyle
 {
 public:
@@ -29,7 +27,6 @@ private:
     void HideMarker();
 
     PickForwarder ForwardPick = nullptr;
-    vtkNew<vtkSphereSource> MarkerSource;
     vtkNew<vtkActor> MarkerActor;
     vtkWeakPointer<vtkRenderer> MarkerRenderer; // where the marker is now
 };

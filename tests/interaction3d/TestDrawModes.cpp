@@ -29,28 +29,6 @@ void ElementAdded(int32_t view, int32_t element)
     }
 }
 
-using Point = double[3];
-int32_t GetPolygon(int32_t view, int32_t id, double* x, double* y, double* z, double* x3,
-                   double* y3, double* z3, int32_t* count, uint8_t* closed)
-{
-    Point px, py, pz;
-    Tarvex_Element_Polygon_GetPointCount(view, id, count);
-    const int32_t status = Tarvex_Element_Polygon_GetValue(view, id, px, py, pz, closed);
-    *x = px[0], *y = py[0], *z = pz[0], *x3 = px[2], *y3 = py[2], *z3 = pz[2];
-    return status;
-}
-int32_t GetPolyhedron(int32_t view, int32_t id, double* x, double* y, double* z, double* x3,
-                      double* y3, double* z3, int32_t* count, double* up, double* height)
-{
-    Point px, py, pz;
-    double side;
-    Tarvex_Element_Polyhedron_GetPointCount(view, id, count);
-    const int32_t status =
-        Tarvex_Element_Polyhedron_GetValue(view, id, px, py, pz, &side, &side, up, height);
-    *x = px[0], *y = py[0], *z = pz[0], *x3 = px[2], *y3 = py[2], *z3 = pz[2];
-    return status;
-}
-
 struct DrawCase
 {
     uint32_t Mode;
@@ -77,14 +55,15 @@ const DrawCase drawCases[] = {
      {{-20, 10}, {10, 50}},
      Tarvex_Element_Cylinder_GetValue,
      {-20 * unit, -10 * unit, -18, -20 * unit, -10 * unit, 22, 50 * unit}},
+    // Of these the first vertex, and what follows all of them.
     {TARVEX_DRAW_POLYGON,
      {{-40, -20}, {50, -30}, {10, 40}},
-     GetPolygon,
-     {-40 * unit, 5, -20 * unit, 10 * unit, 5, 40 * unit, 3, 1}},
+     Tarvex_Element_Polygon_GetValue,
+     {-40 * unit, 5, -20 * unit, 1}},
     {TARVEX_DRAW_POLYHEDRON,
      {{-40, -20}, {50, -30}, {10, 40}},
-     GetPolyhedron,
-     {-40 * unit, 20 * unit, 2, 10 * unit, -40 * unit, 2, 3, 1, 40}}};
+     Tarvex_Element_Polyhedron_GetValue,
+     {-40 * unit, 20 * unit, 2, 0, 0, 1, 40}}};
 
 class DrawModes : public ViewFixture
 {
@@ -108,16 +87,11 @@ protected:
         Tarvex_Window_Camera_SetPredefinedView(Id, front ? TARVEX_VIEW_FRONT : TARVEX_VIEW_TOP);
         Tarvex_Window_Camera_SetPosition(Id, 0, front ? -105 : 0, front ? 0 : 102);
     }
-    void Go(Pixel to)
-    {
-        Host.MoveMouse(Native, Pixels / 2 + to.X, Pixels / 2 - 1 - to.Y);
-        Settle();
-    }
+    void Go(Pixel to) { Host.MoveMouse(Native, Pixels / 2 + to.X, Pixels / 2 - 1 - to.Y); }
     void Click(unsigned button)
     {
         Host.Press(button);
         Host.Release(button);
-        Settle();
     }
     // Up to where the left button is held at the last point.
     void Begin(const std::vector<Pixel>& points)
@@ -133,17 +107,17 @@ protected:
             {
                 Host.Release(1);
             }
-            Settle();
         }
+        Settle();
     }
     void Finish(const std::vector<Pixel>& points)
     {
         Host.Release(1);
-        Settle();
         if (points.size() > 2)
         {
             Click(3);
         }
+        Settle();
     }
     void Draw(const std::vector<Pixel>& points)
     {
@@ -200,12 +174,16 @@ TEST_F(DrawModes, MakeTheElementThatWasDrawn)
         ASSERT_EQ(added.size(), 1U);
         EXPECT_THAT(Read(one.GetValue, added[0]),
                     testing::Pointwise(testing::DoubleNear(0.51 * unit), one.Expected));
+        const Export count = one.Mode == TARVEX_DRAW_POLYGON
+                                 ? Tarvex_Element_Polygon_GetPointCount
+                                 : Tarvex_Element_Polyhedron_GetPointCount;
+        EXPECT_EQ(Read(count, added[0], points.size() > 2 ? STATUS_OK : STATUS_WRONG_TYPE),
+                  Numbers{points.size() > 2 ? 3.0 : 0.0});
         const bool cylinder = one.Mode == TARVEX_DRAW_CYLINDER;
         EXPECT_EQ(Read(Tarvex_Element_GetTransparency, added[0]), Numbers{cylinder ? 0.6 : 0.0});
         EXPECT_EQ(Read(Tarvex_Element_GetSize, added[0]), Numbers{1});
         EXPECT_EQ(Read(Tarvex_Element_GetColor, added[0]), (Numbers{255, 255, 0}));
         EXPECT_EQ(Read(Tarvex_Element_GetLighting, added[0]), (Numbers{1, 1, 0, 1}));
-        EXPECT_GT(CountLit(), 50);
     }
 }
 
@@ -254,26 +232,42 @@ TEST_F(DrawModes, DropWhatWasBegunInAnotherMode)
         EXPECT_EQ(Tarvex_Window_SetDrawMode(Id, next), STATUS_OK);
         Go({0, 20});
         Host.Release(1);
-        Settle();
         Click(3);
+        Settle();
         EXPECT_EQ(CountYellow() + CountElements(), 0U);
     }
     EXPECT_EQ(Tarvex_Window_SetDrawMode(Id, 8), STATUS_OUT_OF_RANGE);
     EXPECT_EQ(Read(Tarvex_Window_GetDrawMode), Numbers{0});
 }
 
-TEST_F(DrawModes, ConcernOneView)
+TEST_F(DrawModes, ConcernOneViewEach)
 {
-    int32_t other = TARVEX_NONE;
-    Tarvex_Window_Create(Host.Handle(), 1, Pixels, 0, Pixels, Pixels, &other);
-    Tarvex_Window_SetDrawMode(other, TARVEX_DRAW_POLYGON);
+    // On the right, over a quarter of the first one.
+    const int32_t first = std::exchange(Id, TARVEX_NONE);
+    Tarvex_Window_Create(Host.Handle(), 1, Pixels * 3 / 4, 0, Pixels, Pixels, &Id);
+    Prepare();
+    Enter(drawCases[4]);
+    const std::vector<Pixel> left = {{-70, 0}, {-55, 0}, {-60, 20}};
+    Begin(left);
+    const int32_t second = std::exchange(Id, first);
+    Host.Release(1);
+    Native = NativeOf(Id);
     Enter(drawCases[1]);
     Draw(drawCases[1].Points);
     EXPECT_EQ(CountElements(), 1U);
-    int32_t count = -1;
-    Tarvex_Element_GetCount(other, &count);
-    EXPECT_EQ(count, 0);
-    Tarvex_Window_Delete(other);
+    Id = second;
+    Native = NativeOf(Id);
+    EXPECT_EQ(CountElements(), 0U);
+    Go(left[0]);
+    Click(3);
+    Settle();
+    EXPECT_EQ(CountElements(), 1U);
+    Enter(drawCases[4]);
+    Begin(left);
+    Tarvex_Window_Delete(Id);
+    Finish(left);
+    Id = first;
+    EXPECT_EQ(CountElements(), 1U);
 }
 
 TEST_F(DrawModes, DrawNothingInAnUnusableSpace)
