@@ -44,8 +44,8 @@ int32_t ForwardFindHandle2D(int32_t windowId, double x, double y)
 
 void ForwardDrag2D(int32_t windowId, int32_t handle, double x, double y, bool finished)
 {
-    CWindowManager::Forward<CWindow2D>(
-        windowId, [&](CWindow2D& view) { view.DragActiveElement(handle, x, y, finished); });
+    CWindowManager::Forward<CWindow2D>(windowId, [&](CWindow2D& view)
+                                       { view.DragActiveElement(handle, x, y, finished); });
 }
 
 void ForwardDrawDown2D(int32_t windowId, double x, double y)

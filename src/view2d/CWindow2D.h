@@ -6,8 +6,11 @@
 #include "elements2d/CElement_2D.h"
 #include "frame/CElementView.h"
 
+class CElement2D_Drawn;
 class CElement_Draggable2D;
 class MyDefaultInteractorStyle2D;
+class MyDragInteractorStyle2D;
+class MyDrawInteractorStyle2D;
 class vtkChartHistogram2D;
 class vtkContextScene;
 
@@ -46,19 +49,42 @@ public:
     int32_t RemoveAll();
     int32_t SetActiveElement(int32_t elementId);
 
+    // The mouse (CWindow2DInteraction.cpp), in chart coordinates
+    // The handle of the active element that a press takes; -1: none.
+    int32_t FindHandle(double x, double y);
+    void DragActiveElement(int32_t handle, double x, double y, bool finished);
+
+    // Draw modes (CWindow2DDraw.cpp)
+    int32_t GetDrawMode(int32_t* mode);
+    int32_t SetDrawMode(uint32_t mode);
+    void DrawDown(double x, double y);
+    void DrawMove(double x, double y);
+    void DrawUp(double x, double y);
+    void DrawEnd();
+
     vtkChartHistogram2D* GetChart() const;
     MyDefaultInteractorStyle2D* GetDefaultStyle() const;
+    MyDrawInteractorStyle2D* GetDrawStyle() const;
     // The active element; null if there is none.
     CElement_Draggable2D* GetDragTarget() const { return DragTarget; }
 
     // How near to a handle, in X and in Y, the mouse takes it; in chart coordinates.
     static constexpr double HandleTolerance = 1.0;
 
+protected:
+    // What the user is drawing stays on top of what was added meanwhile.
+    void Refresh() override;
+
 private:
     ChartSite MakeSite() const;
     // The box of all elements that have one; false if none has.
     bool CollectBounds(double bounds[4]) const;
     void FitAxes(const double bounds[4], bool keepAspect);
+    void MakeStyles();
+    // Gives the mouse to a style of this view, or to none, and ends what it was doing.
+    void TakeStyle(MyDragInteractorStyle2D* style);
+    int32_t EnterDrawMode(int32_t mode);
+    void FinishDrawing();
     // Drops what the user is drawing.
     void CancelDrawing();
     // What the mouse may drag from now on. The one place to tell the styles: called when an element
@@ -70,6 +96,8 @@ private:
     vtkSmartPointer<vtkChartHistogram2D> Chart;
     vtkSmartPointer<vtkContextScene> Scene;
     vtkSmartPointer<MyDefaultInteractorStyle2D> DefaultStyle;
+    vtkSmartPointer<MyDrawInteractorStyle2D> DrawStyle;
+    std::unique_ptr<CElement2D_Drawn> DrawnElement; // only in a draw mode
 
     CElement_Draggable2D* DragTarget = nullptr; // borrowed from Elements
 

@@ -39,9 +39,8 @@ int32_t AddPolygon(CWindow2D& view, const CElement2D_Drawn& drawn, int32_t* elem
         y.push_back(vertex.Y);
     }
     const bool closed = true;
-    return view.AddElement<CElement_Polygon2D>(ChartFit::Keep, elementId,
-                                               static_cast<int32_t>(x.size()), x.data(), y.data(),
-                                               closed);
+    return view.AddElement<CElement_Polygon2D>(
+        ChartFit::Keep, elementId, static_cast<int32_t>(x.size()), x.data(), y.data(), closed);
 }
 
 struct DrawnShape
@@ -98,8 +97,8 @@ int32_t CWindow2D::SetDrawMode(uint32_t mode)
             int32_t status = STATUS_OK;
             if (mode != TARVEX_DRAW_NONE)
             {
-                status = Guarded(LastError,
-                                 [&] { return EnterDrawMode(static_cast<int32_t>(mode)); });
+                status =
+                    Guarded(LastError, [&] { return EnterDrawMode(static_cast<int32_t>(mode)); });
             }
             if (!DrawnElement)
             {
@@ -120,9 +119,8 @@ int32_t CWindow2D::EnterDrawMode(int32_t mode)
     }
     DrawnElement = std::make_unique<CElement2D_Drawn>(Chart, shape->Gesture, shape->BandName);
     DrawMode = mode;
-    DrawStyle->SetForwarders(
-        DrawnElement->IsMultiClick(),
-        {ForwardDrawDown2D, ForwardDrawMove2D, ForwardDrawUp2D, ForwardDrawEnd2D});
+    DrawStyle->SetForwarders(DrawnElement->IsMultiClick(), {ForwardDrawDown2D, ForwardDrawMove2D,
+                                                            ForwardDrawUp2D, ForwardDrawEnd2D});
     TakeStyle(DrawStyle);
     // The chart does not search for one in a draw mode, nor would it hide this one.
     Chart->GetTooltip()->SetVisible(false);

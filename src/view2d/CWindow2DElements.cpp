@@ -93,17 +93,3 @@ int32_t CWindow2D::SetActiveElement(int32_t elementId)
             return status;
         });
 }
-
-void CWindow2D::OfferDragTarget(CElement_Draggable2D* element)
-{
-    DragTarget = element;
-    ActiveElementId = element->Id;
-}
-
-void CWindow2D::ClearDragTarget()
-{
-    DragTarget = nullptr;
-    ActiveElementId = -1;
-}
-
-void CWindow2D::CancelDrawing() {}

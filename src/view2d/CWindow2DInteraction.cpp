@@ -78,8 +78,7 @@ void CWindow2D::DragActiveElement(int32_t handle, double x, double y, bool finis
     {
         return;
     }
-    const int32_t status =
-        Guarded(LastError, [&] { return DragTarget->DragHandle(handle, x, y); });
+    const int32_t status = Guarded(LastError, [&] { return DragTarget->DragHandle(handle, x, y); });
     if (status == STATUS_OK && finished)
     {
         // Last: the view may be gone when the host returns.
