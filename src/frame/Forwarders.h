@@ -5,5 +5,6 @@
 #include <cstdint>
 
 void ForwardPick(int32_t windowId, double x, double y, double z);
-// `handle` is MyDragInteractorStyle::NoHandle when the button went up where no position could be found.
+// `handle` is MyDragInteractorStyle::NoHandle when the button went up where no position could be
+// found.
 void ForwardDrag(int32_t windowId, int32_t handle, double x, double y, double z, bool finished);
