@@ -6,6 +6,7 @@
 #include "frame/NumberTest.h"
 
 #include <vtkChartHistogram2D.h>
+#include <vtkCommand.h>
 
 #include <algorithm>
 #include <cstring>
@@ -118,12 +119,17 @@ vtkPlotPoints* CElement_2D::MakePlot(PlotKind kind, const CPlotTable& table, int
     {
         plot = vtkSmartPointer<CPointsPlot>::New();
     }
+    SetUpPlot(plot, table, markerStyle);
+    Chart->AddPlot(plot);
+    return plot;
+}
+
+void CElement_2D::SetUpPlot(vtkPlotPoints* plot, const CPlotTable& table, int markerStyle) const
+{
     plot->SetInputData(table.GetTable(), 0, 1);
     ApplyLook(plot);
     plot->SetSelectable(true);
     plot->SetMarkerStyle(markerStyle);
-    Chart->AddPlot(plot);
-    return plot;
 }
 
 void CElement_2D::RemovePlot(vtkPlot* plot)
@@ -151,6 +157,22 @@ bool CElement_2D::AreOnTop(const std::vector<vtkPlotPoints*>& plots) const
     return index >= 0 &&
            std::all_of(plots.begin(), plots.end(),
                        [&](vtkPlotPoints* plot) { return Chart->GetPlot(index++) == plot; });
+}
+
+void CElement_2D::RaisePlots()
+{
+    if (AreOnTop(Plots))
+    {
+        return;
+    }
+    for (vtkPlotPoints* plot : Plots)
+    {
+        const vtkSmartPointer<vtkPlotPoints> kept = plot;
+        RemovePlot(plot);
+        // Each time that a chart takes a plot it begins to listen to it.
+        plot->RemoveObservers(vtkCommand::ModifiedEvent);
+        Chart->AddPlot(plot);
+    }
 }
 
 std::string MakeColumnName(const char* name, const char* kind, int32_t id)

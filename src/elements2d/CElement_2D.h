@@ -54,12 +54,16 @@ protected:
     // Adds a plot on top of all others, with the element's look. `markerStyle` is one of
     // vtkPlotPoints.
     vtkPlotPoints* MakePlot(PlotKind kind, const CPlotTable& table, int markerStyle);
+    // The same for a plot that is not in the chart yet.
+    void SetUpPlot(vtkPlotPoints* plot, const CPlotTable& table, int markerStyle) const;
     // Out of the chart, if it is in it.
     void RemovePlot(vtkPlot* plot);
     void RemovePlots();
     // True if the plots are the last ones of the chart, in this order: a changed element is drawn
     // on top of all others, and plots that are there already can stay.
     bool AreOnTop(const std::vector<vtkPlotPoints*>& plots) const;
+    // Draws all plots on top of those of other elements, as if they were new.
+    void RaisePlots();
     // Colour, width and visibility, on all plots.
     virtual void ApplyLook();
     void ApplyLook(vtkPlot* plot) const;
