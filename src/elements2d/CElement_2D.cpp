@@ -105,7 +105,7 @@ void CElement_2D::ApplyLook(vtkPlot* plot) const
     constexpr uint8_t opaque = 255;
     plot->SetColor(Color[0], Color[1], Color[2], opaque);
     plot->SetWidth(NarrowToFloat(Size));
-    plot->SetVisible(Valid && Shown);
+    plot->SetVisible(IsVisible());
 }
 
 vtkPlotPoints* CElement_2D::MakePlot(PlotKind kind, const CPlotTable& table, int markerStyle)

@@ -22,6 +22,9 @@ struct ChartSite
 class CElement_2D : public CElement_Base
 {
 public:
+    // Whether another geometry for an element ends what the user is drawing in the view.
+    static constexpr bool EndsDrawing = false;
+
     CElement_2D(int32_t elementType, double size, uint8_t red, uint8_t green, uint8_t blue);
     ~CElement_2D() override;
 
@@ -67,6 +70,7 @@ protected:
     // Colour, width and visibility, on all plots.
     virtual void ApplyLook();
     void ApplyLook(vtkPlot* plot) const;
+    bool IsVisible() const { return Valid && Shown; }
     // False: nothing to be seen has been built, and most calls answer STATUS_NOT_READY.
     virtual bool IsReady() const { return Chart && !Plots.empty(); }
     virtual int32_t CheckComplete() const;

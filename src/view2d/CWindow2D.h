@@ -6,6 +6,7 @@
 #include "elements2d/CElement_2D.h"
 #include "frame/CElementView.h"
 
+class CElement_Draggable2D;
 class MyDefaultInteractorStyle2D;
 class vtkChartHistogram2D;
 class vtkContextScene;
@@ -51,16 +52,30 @@ public:
 
     vtkChartHistogram2D* GetChart() const;
     MyDefaultInteractorStyle2D* GetDefaultStyle() const;
+    // The active element; null if there is none.
+    CElement_Draggable2D* GetDragTarget() const { return DragTarget; }
+
+    // How near to a handle, in X and in Y, the mouse takes it; in chart coordinates.
+    static constexpr double HandleTolerance = 1.0;
 
 private:
     ChartSite MakeSite() const;
     // The box of all elements that have one; false if none has.
     bool CollectBounds(double bounds[4]) const;
     void FitAxes(const double bounds[4], bool keepAspect);
+    // Drops what the user is drawing.
+    void CancelDrawing();
+    // What the mouse may drag from now on. The one place to tell the styles: called when an element
+    // becomes active, and when the active one has changed.
+    void OfferDragTarget(CElement_Draggable2D* element);
+    // Every way out of "active" comes here.
+    void ClearDragTarget();
 
     vtkSmartPointer<vtkChartHistogram2D> Chart;
     vtkSmartPointer<vtkContextScene> Scene;
     vtkSmartPointer<MyDefaultInteractorStyle2D> DefaultStyle;
+
+    CElement_Draggable2D* DragTarget = nullptr; // borrowed from Elements
 
     int32_t ChartLayout = -1;                              // before the first SetChartLayout
     double DrawSpace[4] = {-50.0, 50.0, -50.0, 50.0};      // xmin, xmax, ymin, ymax
@@ -109,7 +124,20 @@ int32_t CWindow2D::AddOnly(int32_t* elementId, Geometry... geometry)
 template <class Class, class Action>
 int32_t CWindow2D::ChangeElement(int32_t elementId, Action&& action)
 {
+    if (Class::EndsDrawing && Guard() == STATUS_OK && Elements.Find(elementId))
+    {
+        // Before the type test: also by a call that then finds an element of another type.
+        CancelDrawing();
+    }
     return OnElement<Class>(elementId, Render::Always,
                             [&](Class& element)
-                            { return Guarded(LastError, [&] { return action(element); }); });
+                            {
+                                const int32_t status =
+                                    Guarded(LastError, [&] { return action(element); });
+                                if (elementId == ActiveElementId)
+                                {
+                                    OfferDragTarget(DragTarget);
+                                }
+                                return status;
+                            });
 }
