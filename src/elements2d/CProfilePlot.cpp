@@ -47,6 +47,7 @@ void CProfilePlot::CopyPoints(const vtkTable& table)
     auto* x = vtkFloatArray::FastDownCast(columns.GetColumn(0));
     auto* y = vtkFloatArray::FastDownCast(columns.GetColumn(1));
     const vtkIdType count = x->GetNumberOfValues();
+    // The base class holds and deletes Points and BadPoints by bare pointers.
     if (!Points)
     {
         Points = vtkPoints2D::New();
