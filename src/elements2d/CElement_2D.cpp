@@ -171,6 +171,9 @@ void CElement_2D::RaisePlots()
         RemovePlot(plot);
         // Each time that a chart takes a plot it begins to listen to it.
         plot->RemoveObservers(vtkCommand::ModifiedEvent);
+        // A plot that has the chart's axes counts as drawn by it, and would not be drawn again.
+        plot->SetXAxis(nullptr);
+        plot->SetYAxis(nullptr);
         Chart->AddPlot(plot);
     }
 }
