@@ -119,12 +119,17 @@ vtkPlotPoints* CElement_2D::MakePlot(PlotKind kind, const CPlotTable& table, int
     {
         plot = vtkSmartPointer<CPointsPlot>::New();
     }
+    SetUpPlot(plot, table, markerStyle);
+    Chart->AddPlot(plot);
+    return plot;
+}
+
+void CElement_2D::SetUpPlot(vtkPlotPoints* plot, const CPlotTable& table, int markerStyle) const
+{
     plot->SetInputData(table.GetTable(), 0, 1);
     ApplyLook(plot);
     plot->SetSelectable(true);
     plot->SetMarkerStyle(markerStyle);
-    Chart->AddPlot(plot);
-    return plot;
 }
 
 void CElement_2D::RemovePlot(vtkPlot* plot)
@@ -166,6 +171,9 @@ void CElement_2D::RaisePlots()
         RemovePlot(plot);
         // Each time that a chart takes a plot it begins to listen to it.
         plot->RemoveObservers(vtkCommand::ModifiedEvent);
+        // A plot that has the chart's axes counts as drawn by it, and would not be drawn again.
+        plot->SetXAxis(nullptr);
+        plot->SetYAxis(nullptr);
         Chart->AddPlot(plot);
     }
 }

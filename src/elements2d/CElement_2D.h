@@ -57,6 +57,8 @@ protected:
     // Adds a plot on top of all others, with the element's look. `markerStyle` is one of
     // vtkPlotPoints.
     vtkPlotPoints* MakePlot(PlotKind kind, const CPlotTable& table, int markerStyle);
+    // The same for a plot that is not in the chart yet.
+    void SetUpPlot(vtkPlotPoints* plot, const CPlotTable& table, int markerStyle) const;
     // Out of the chart, if it is in it.
     void RemovePlot(vtkPlot* plot);
     void RemovePlots();
@@ -72,6 +74,7 @@ protected:
     // False: nothing to be seen has been built, and most calls answer STATUS_NOT_READY.
     virtual bool IsReady() const { return Chart && !Plots.empty(); }
     virtual int32_t CheckComplete() const;
+    bool IsShown() const { return Shown; }
 
     vtkChartHistogram2D* Chart = nullptr; // borrowed
     std::vector<vtkPlotPoints*> Plots;    // owned by the chart

@@ -1,0 +1,263 @@
+#include "LiteralImage.h"
+#include "TarvexExt.h"
+#include "elements2d/CImagePlot.h"
+#include "frame/CWindowManager.h"
+#include "frame/FailingAllocations.h"
+#include "support/TestHost.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include <vtkAxis.h>
+
+namespace
+{
+using Bytes = std::vector<uint8_t>;
+constexpr int width = 400; // of the view
+constexpr int height = 300;
+
+// Neighbours differ.
+Bytes MakePixels(int columns, int rows)
+{
+    Bytes pixels;
+    for (int i = 0; i < columns * rows; ++i)
+    {
+        pixels.push_back(static_cast<uint8_t>((i % columns) * 7 + (i / columns) * 31));
+    }
+    return pixels;
+}
+
+class Image2D : public testing::Test
+{
+protected:
+    Image2D()
+    {
+        EXPECT_EQ(Tarvex_Window2D_Create(Host.Handle(), 1, 0, 0, width, height, &Id), STATUS_OK);
+        CWindowManager::Instance->Call<CWindow2D>(Id, [this](CWindow2D& view)
+                                                  { return (View = &view, int32_t{STATUS_OK}); });
+    }
+    ~Image2D() override { Tarvex_Window2D_Delete(Id); }
+
+    void Add(const Bytes& pixels, int columns, int rows, double x = 0, double y = 0,
+             double scale = 1, uint32_t palette = 0)
+    {
+        ASSERT_EQ(Tarvex_Element2D_Add_ImageByte(Id, pixels.data(), columns, rows, scale, scale, 2,
+                                                 x, y, 3, palette, &Image),
+                  STATUS_OK);
+    }
+    vtkAxis* GetAxis(int side) const { return View->GetChart()->GetAxis(side); }
+    void SetRange(const double range[4]) const
+    {
+        GetAxis(vtkAxis::BOTTOM)->SetUnscaledRange(range[0], range[1]);
+        GetAxis(vtkAxis::LEFT)->SetUnscaledRange(range[2], range[3]);
+    }
+    Picture Draw() const
+    {
+        constexpr int size = width * height * 3;
+        Picture picture{width, height, Bytes(size)};
+        Tarvex_Window2D_SetBackgroundColor(Id, 0, 0, 0);
+        EXPECT_EQ(TarvexExt_Window2D_CopyImage(Id, picture.Pixels.data(), size, &picture.Width,
+                                               &picture.Height),
+                  STATUS_OK);
+        return picture;
+    }
+    // The pixel, from the lower left corner, where a value lies.
+    double Locate(int side, double value) const
+    {
+        vtkAxis* axis = GetAxis(side);
+        const int direction = side == vtkAxis::BOTTOM ? 0 : 1;
+        const double first = axis->GetPoint1()[direction];
+        return first + (axis->GetPoint2()[direction] - first) * (value - axis->GetMinimum()) /
+                           (axis->GetMaximum() - axis->GetMinimum());
+    }
+
+    TestHost Host{width, height};
+    int32_t Id = -1;
+    int32_t Image = -1;
+    CWindow2D* View = nullptr;
+};
+} // namespace
+
+TEST_F(Image2D, IsDrawnPixelByPixelLikeTheStockPlotInEachPalette)
+{
+    const uint8_t own[] = {200, 31, 7};
+    for (int palette = 0; palette < PaletteCount; ++palette)
+    {
+        const auto stock = LiteralImage::MakeColors(palette, own);
+        const PaletteTable table = GetImageTable(palette, {own[0], own[1], own[2]});
+        for (size_t byte = 0; byte < table.size(); ++byte)
+        {
+            const uint8_t* color = stock->MapValue(std::min(static_cast<double>(byte), 254.9999));
+            EXPECT_EQ(table[byte], (PaletteColor{color[0], color[1], color[2]})) << palette;
+        }
+    }
+    const Bytes pixels = MakePixels(150, 90);
+    const double ranges[][4] = {{-10.3, 161.7, -7.1, 99.2},      // all of it
+                                {20.013, 31.27, 40.017, 47.031}, // magnified
+                                {-900.1, 1300.7, -700.3, 800.9}, // small
+                                {-50.17, 60.31, 30.03, 140.77}}; // partly outside
+    for (const auto& range : ranges)
+    {
+        Add(pixels, 150, 90, 0, 0, 1, 1);
+        SetRange(range);
+        const Picture picture = Draw();
+        LiteralImage stock(*View);
+        stock.SetValue(pixels.data(), 150, 90, 1);
+        stock.Refresh();
+        EXPECT_EQ(picture.CountDifferences(Draw()), 0) << range[0];
+    }
+}
+
+TEST_F(Image2D, LiesWhereTheAxesSayAlsoFarFromZeroAndBeyondTheSizeOfTextures)
+{
+    const struct
+    {
+        int Columns, Rows;
+        double X, Y, Scale, Range[4];
+    } cases[] = {{100, 100, 1000, 1000, 0.1, {998, 1006, 998, 1006}}, // an axis shift is on
+                 {100, 100, -5e6, 7e5, 1e-3, {-5e6 - 0.01, -5e6 + 0.05, 7e5 + 0.03, 7e5 + 0.12}},
+                 {40000, 3, 0, 0, 1, {16300.3, 16500.1, -1.03, 4.1}},
+                 {3, 40000, 0, 0, 1, {-1.03, 4.1, 39700.3, 39900.1}}};
+    for (const auto& [columns, rows, x, y, scale, range] : cases)
+    {
+        SCOPED_TRACE(testing::Message() << columns << " at " << x);
+        // Blue, with one red texel about the middle of the range.
+        Bytes pixels(static_cast<size_t>(columns * rows));
+        const double column = std::floor(((range[0] + range[1]) / 2 - x) / scale);
+        const double row = std::floor(((range[2] + range[3]) / 2 - y) / scale);
+        pixels[static_cast<size_t>((rows - 1 - row) * columns + column)] = 170;
+        Add(pixels, columns, rows, x, y, scale);
+        SetRange(range);
+        const Picture picture = Draw();
+        const auto mark = picture.Centre([](const Picture::Color& color)
+                                         { return color[0] > 200 && color[1] < 40; });
+        EXPECT_NEAR(mark[0], Locate(vtkAxis::BOTTOM, x + (column + 0.5) * scale), 1.0);
+        EXPECT_NEAR(height - mark[1], Locate(vtkAxis::LEFT, y + (row + 0.5) * scale), 1.5);
+        const auto isRest = [](const Picture::Color& color) { return color[2] > 250 && !color[1]; };
+        EXPECT_GT(picture.Count(isRest), 9000);
+        // The mouse finds the corner pixel, in the plot's own, shifted numbers.
+        vtkPlot* plot = View->GetChart()->GetPlot(0);
+        const vtkRectd shift = plot->GetShiftScale();
+        const vtkVector2f point(static_cast<float>((x + scale / 2 + shift[0]) * shift[2]),
+                                static_cast<float>((y + scale / 2 + shift[1]) * shift[3]));
+        vtkVector2f place;
+        vtkIdType segment;
+        EXPECT_EQ(plot->GetNearestPoint(point, {0, 0}, &place, &segment), 0);
+        const auto texel = static_cast<vtkIdType>(row * columns + column);
+        EXPECT_TRUE(plot->GetTooltipLabel({}, texel, 0).ends_with(":  170"));
+    }
+}
+
+TEST_F(Image2D, LeavesNothingBehindWhenItIsHiddenOrRemovedOrGetsAnotherPalette)
+{
+    const double range[] = {-1, 5, -1, 5};
+    SetRange(range);
+    const Picture empty = Draw();
+    const Bytes pixels = MakePixels(4, 4);
+    Add(pixels, 4, 4);
+    const Picture shown = Draw();
+    EXPECT_GT(shown.CountDifferences(empty), 9000);
+    Tarvex_Element2D_Show(Id, Image, 0);
+    Add(pixels, 4, 4);
+    EXPECT_EQ(Draw().CountDifferences(empty), 0) << "hidden, and stays so";
+    Tarvex_Element2D_Show(Id, Image, 1);
+    EXPECT_EQ(Draw().CountDifferences(shown), 0);
+    Tarvex_Element2D_SetPalette_Image(Id, Image, TARVEX_PALETTE_RED);
+    const Picture changed = Draw();
+    Tarvex_Element2D_Remove(Id, Image);
+    EXPECT_EQ(Draw().CountDifferences(empty), 0);
+    Add(pixels, 4, 4, 0, 0, 1, TARVEX_PALETTE_RED);
+    EXPECT_EQ(Draw().CountDifferences(changed), 0);
+
+    // One colour: the one of the time when the palette was chosen.
+    Tarvex_Element2D_SetPalette_Image(Id, Image, SingleColorPalette);
+    EXPECT_EQ(Tarvex_Element2D_SetColor(Id, Image, 9, 200, 3), STATUS_WRONG_TYPE);
+    EXPECT_EQ(Draw().At(200, 130), (Picture::Color{0, 0, 255}));
+    Tarvex_Element2D_SetPalette_Image(Id, Image, SingleColorPalette);
+    EXPECT_EQ(Draw().At(200, 130), (Picture::Color{9, 200, 3}));
+}
+
+TEST_F(Image2D, ReducesShortsToBytes)
+{
+    constexpr int16_t gap = -32768;
+    const struct
+    {
+        int16_t Pixels[4];
+        Bytes Expected;
+        double ScaleZ, OffsetZ;
+    } cases[] = {{{0, 255, gap, 7}, {0, 255, 0, 7}, 2, 3},
+                 {{gap, gap, gap, gap}, {0, 0, 0, 0}, 2, 3},
+                 {{100, gap, 100, 100}, {1, 1, 1, 1}, 2, 3},
+                 {{0, 256, gap, 128}, {1, 255, 0, 128}, 2 / (254.0 / 256), 3 + 2 / (254.0 / 256)},
+                 {{-32767, 32767, gap, 0},
+                  {1, 255, 0, 128},
+                  2 / (254.0 / 65534),
+                  -32767 * 2.0 + 3.0 + 2 / (254.0 / 65534)}};
+    for (const auto& [pixels, expected, scaleZ, offsetZ] : cases)
+    {
+        Tarvex_Element2D_Add_ImageShort(Id, pixels, 2, 2, 1, 1, 2, 0, 0, 3, 0, &Image);
+        Bytes bytes(4);
+        double x[2];
+        double y[2];
+        double z[2];
+        EXPECT_EQ(
+            Tarvex_Element2D_Image_GetValue(Id, Image, bytes.data(), x, y, z, x + 1, y + 1, z + 1),
+            STATUS_OK);
+        EXPECT_EQ(bytes, expected);
+        EXPECT_EQ(z[0], scaleZ);
+        EXPECT_EQ(z[1], offsetZ);
+    }
+}
+
+TEST_F(Image2D, IsTheOnlyOneAndKeepsItsStateWhenAChangeFails)
+{
+    const Bytes pixels = MakePixels(9, 8);
+    Add(pixels, 4, 3, 10, 20, 0.5);
+    const Picture before = Draw();
+    const struct
+    {
+        const uint8_t* Pixels;
+        int Columns, Rows;
+        double ScaleX, ScaleZ;
+        uint32_t Palette;
+        int32_t Status;
+        int FailingAllocation = 0;
+    } changes[] = {{nullptr, 1, 2, 0, 0, 9, STATUS_NULL_ARGUMENT},
+                   {pixels.data(), 1, 2, 0, 0, 9, STATUS_TOO_SMALL},
+                   {pixels.data(), 2, 2, 1e-11, 1, 1, STATUS_OUT_OF_RANGE},
+                   {pixels.data(), 2, 2, 1, -1, 1, STATUS_OUT_OF_RANGE},
+                   {pixels.data(), 65536, 65536, 1, 1, 7, STATUS_OUT_OF_RANGE},
+                   {pixels.data(), 65536, 32768, 1, 1, 1, STATUS_OUT_OF_MEMORY},
+                   {pixels.data(), 9, 8, 1, 1, 1, STATUS_OUT_OF_MEMORY, 1},
+                   {pixels.data(), 9, 8, 1, 1, 3, STATUS_OK}};
+    for (const auto& [given, columns, rows, x, z, palette, status, place] : changes)
+    {
+        // What has been there so far is still there.
+        EXPECT_EQ(Draw().CountDifferences(before), 0);
+        double box[4];
+        View->FindElement(0)->GetBounds(box, box + 1, box + 2, box + 3);
+        EXPECT_EQ(std::vector<double>(box, box + 4), (std::vector<double>{10, 12, 20, 21.5}));
+        FailAllocation(place);
+        EXPECT_EQ(Tarvex_Element2D_Image_SetValueByte(Id, 0, given, columns, rows, x, 1, z, 10, 20,
+                                                      0, palette),
+                  status);
+        FailAllocation(place);
+        EXPECT_EQ(Tarvex_Element2D_Add_ImageByte(Id, given, columns, rows, x, 1, z, 10, 20, 0,
+                                                 palette, &Image),
+                  status);
+        StopFailing();
+        EXPECT_EQ(Image, status == STATUS_OK ? 0 : -1);
+    }
+    int32_t palette = 0;
+    double size = 0;
+    EXPECT_EQ(Tarvex_Element2D_SetPalette_Image(Id, 0, 7), STATUS_OUT_OF_RANGE);
+    Tarvex_Element2D_GetPalette_Image(Id, 0, &palette);
+    EXPECT_EQ(palette, 3);
+    Tarvex_Element2D_SetSize(Id, 0, 4.0);
+    EXPECT_EQ(Tarvex_Element2D_GetSize(Id, 0, &size), STATUS_WRONG_TYPE);
+    EXPECT_EQ(size, 4.0);
+    Tarvex_Element2D_RemoveAll(Id);
+    Add(pixels, 4, 3);
+    EXPECT_EQ(Image, 1);
+}
