@@ -66,6 +66,7 @@ protected:
     // False: nothing to be seen has been built, and most calls answer STATUS_NOT_READY.
     virtual bool IsReady() const { return Chart && !Plots.empty(); }
     virtual int32_t CheckComplete() const;
+    bool IsShown() const { return Shown; }
 
     vtkChartHistogram2D* Chart = nullptr; // borrowed
     std::vector<vtkPlotPoints*> Plots;    // owned by the chart

@@ -1,6 +1,7 @@
 // Exports that work on any chart element, and those of profiles and images in charts.
 #include "Tarvex.h"
 
+#include "elements2d/CElement_Image2D.h"
 #include "frame/CallFrame.h"
 
 int32_t Tarvex_Element2D_GetCount(int32_t windowId, int32_t* count)
@@ -168,70 +169,80 @@ int32_t Tarvex_Element2D_ProfileUniform_GetValue(int32_t windowId, int32_t /*ele
     return NotBuilt<CWindow2D>(windowId);
 }
 
-int32_t Tarvex_Element2D_Add_ImageByte(int32_t windowId, const uint8_t* /*pixels*/,
-                                       int32_t /*width*/, int32_t /*height*/, double /*scaleX*/,
-                                       double /*scaleY*/, double /*scaleZ*/, double /*offsetX*/,
-                                       double /*offsetY*/, double /*offsetZ*/, uint32_t /*palette*/,
-                                       int32_t* elementId)
+int32_t Tarvex_Element2D_Add_ImageByte(int32_t windowId, const uint8_t* pixels, int32_t width,
+                                       int32_t height, double scaleX, double scaleY, double scaleZ,
+                                       double offsetX, double offsetY, double offsetZ,
+                                       uint32_t palette, int32_t* elementId)
 {
     ClearToNone(elementId);
-    return NotBuilt<CWindow2D>(windowId);
+    const ImageForm form{
+        width, height, {scaleX, scaleY, scaleZ}, {offsetX, offsetY, offsetZ}, palette};
+    return OnView<CWindow2D>(windowId,
+                             &CWindow2D::AddOnly<CElement_Image2D, const uint8_t*, ImageForm>,
+                             elementId, pixels, form);
 }
 
-int32_t Tarvex_Element2D_Add_ImageShort(int32_t windowId, const int16_t* /*pixels*/,
-                                        int32_t /*width*/, int32_t /*height*/, double /*scaleX*/,
-                                        double /*scaleY*/, double /*scaleZ*/, double /*offsetX*/,
-                                        double /*offsetY*/, double /*offsetZ*/,
-                                        uint32_t /*palette*/, int32_t* elementId)
+int32_t Tarvex_Element2D_Add_ImageShort(int32_t windowId, const int16_t* pixels, int32_t width,
+                                        int32_t height, double scaleX, double scaleY, double scaleZ,
+                                        double offsetX, double offsetY, double offsetZ,
+                                        uint32_t palette, int32_t* elementId)
 {
     ClearToNone(elementId);
-    return NotBuilt<CWindow2D>(windowId);
+    const ImageForm form{
+        width, height, {scaleX, scaleY, scaleZ}, {offsetX, offsetY, offsetZ}, palette};
+    return OnView<CWindow2D>(windowId,
+                             &CWindow2D::AddOnly<CElement_Image2D, const int16_t*, ImageForm>,
+                             elementId, pixels, form);
 }
 
-int32_t Tarvex_Element2D_Image_SetValueByte(int32_t windowId, int32_t /*elementId*/,
-                                            const uint8_t* /*pixels*/, int32_t /*width*/,
-                                            int32_t /*height*/, double /*scaleX*/,
-                                            double /*scaleY*/, double /*scaleZ*/,
-                                            double /*offsetX*/, double /*offsetY*/,
-                                            double /*offsetZ*/, uint32_t /*palette*/)
+int32_t Tarvex_Element2D_Image_SetValueByte(int32_t windowId, int32_t elementId,
+                                            const uint8_t* pixels, int32_t width, int32_t height,
+                                            double scaleX, double scaleY, double scaleZ,
+                                            double offsetX, double offsetY, double offsetZ,
+                                            uint32_t palette)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    const ImageForm form{
+        width, height, {scaleX, scaleY, scaleZ}, {offsetX, offsetY, offsetZ}, palette};
+    return OnElement(windowId, elementId, Render::Never, &CElement_Image2D::SetValue<uint8_t>,
+                     pixels, form);
 }
 
-int32_t Tarvex_Element2D_Image_SetValueShort(int32_t windowId, int32_t /*elementId*/,
-                                             const int16_t* /*pixels*/, int32_t /*width*/,
-                                             int32_t /*height*/, double /*scaleX*/,
-                                             double /*scaleY*/, double /*scaleZ*/,
-                                             double /*offsetX*/, double /*offsetY*/,
-                                             double /*offsetZ*/, uint32_t /*palette*/)
+int32_t Tarvex_Element2D_Image_SetValueShort(int32_t windowId, int32_t elementId,
+                                             const int16_t* pixels, int32_t width, int32_t height,
+                                             double scaleX, double scaleY, double scaleZ,
+                                             double offsetX, double offsetY, double offsetZ,
+                                             uint32_t palette)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    const ImageForm form{
+        width, height, {scaleX, scaleY, scaleZ}, {offsetX, offsetY, offsetZ}, palette};
+    return OnElement(windowId, elementId, Render::Never, &CElement_Image2D::SetValue<int16_t>,
+                     pixels, form);
 }
 
-int32_t Tarvex_Element2D_Image_GetImageSize(int32_t windowId, int32_t /*elementId*/, int32_t* width,
+int32_t Tarvex_Element2D_Image_GetImageSize(int32_t windowId, int32_t elementId, int32_t* width,
                                             int32_t* height)
 {
     ClearToZero(width, height);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::Never, &CElement_Image2D::GetImageSize, width,
+                     height);
 }
 
-int32_t Tarvex_Element2D_Image_GetValue(int32_t windowId, int32_t /*elementId*/,
-                                        uint8_t* /*pixels*/, double* scaleX, double* scaleY,
-                                        double* scaleZ, double* offsetX, double* offsetY,
-                                        double* offsetZ)
+int32_t Tarvex_Element2D_Image_GetValue(int32_t windowId, int32_t elementId, uint8_t* pixels,
+                                        double* scaleX, double* scaleY, double* scaleZ,
+                                        double* offsetX, double* offsetY, double* offsetZ)
 {
     ClearToZero(scaleX, scaleY, scaleZ, offsetX, offsetY, offsetZ);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::Never, &CElement_Image2D::GetValue, pixels,
+                     scaleX, scaleY, scaleZ, offsetX, offsetY, offsetZ);
 }
 
-int32_t Tarvex_Element2D_GetPalette_Image(int32_t windowId, int32_t /*elementId*/, int32_t* palette)
+int32_t Tarvex_Element2D_GetPalette_Image(int32_t windowId, int32_t elementId, int32_t* palette)
 {
     ClearToNone(palette);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::Never, &CElement_Image2D::GetPalette, palette);
 }
 
-int32_t Tarvex_Element2D_SetPalette_Image(int32_t windowId, int32_t /*elementId*/,
-                                          uint32_t /*palette*/)
+int32_t Tarvex_Element2D_SetPalette_Image(int32_t windowId, int32_t elementId, uint32_t palette)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement(windowId, elementId, Render::Never, &CElement_Image2D::SetPalette, palette);
 }

@@ -103,7 +103,62 @@ consteval std::array<PaletteTable, SingleColorPalette> MakeTables()
 }
 
 constexpr std::array<PaletteTable, SingleColorPalette> Tables = MakeTables();
+
+constexpr PaletteNode RainbowNodes[] = {
+    {0.0, {0, 0, 1}},     {42.585, {0, 1, 1}},  {84.915, {0, 1, 0}}, {127.5, {1, 1, 0}},
+    {170.085, {1, 0, 0}}, {212.415, {1, 0, 1}}, {255.0, {1, 1, 1}}};
+constexpr PaletteNode SpectrumNodes[] = {{0.0, {0, 0, 0.157}},      {51.0, {0, 0, 0.957}},
+                                         {103.02, {0, 0.6, 0.141}}, {155.04, {0.957, 0.027, 0}},
+                                         {207.06, {1, 0.957, 0}},   {255.0, {1, 1, 0.737}}};
+constexpr PaletteNode RedNodes[] = {{0.0, {0, 0, 0}}, {127.5, {1, 0, 0}}, {255.0, {1, 1, 1}}};
+constexpr PaletteNode GreenNodes[] = {{0.0, {0, 0, 0}}, {127.5, {0, 1, 0}}, {255.0, {1, 1, 1}}};
+constexpr PaletteNode BlueNodes[] = {{0.0, {0, 0, 0}}, {127.5, {0, 0, 1}}, {255.0, {1, 1, 1}}};
+constexpr PaletteNode GreyNodes[] = {{0.0, {0, 0, 0}}, {255.0, {1, 1, 1}}};
+constexpr std::span<const PaletteNode> Nodes[] = {RainbowNodes, SpectrumNodes, RedNodes,
+                                                  GreenNodes,   BlueNodes,     GreyNodes};
+
+uint8_t Interpolate(const PaletteNode& low, const PaletteNode& high, size_t channel, double value)
+{
+    const double share = (value - low.Value) / (high.Value - low.Value);
+    const double level = (1 - share) * low.Color[channel] + share * high.Color[channel];
+    return Byte(255.0 * level + 0.5);
+}
 } // namespace
+
+std::span<const PaletteNode> GetPaletteNodes(int32_t palette)
+{
+    return palette == SingleColorPalette ? std::span<const PaletteNode>()
+                                         : Nodes[static_cast<size_t>(palette)];
+}
+
+PaletteTable GetImageTable(int32_t palette, const PaletteColor& ownColor)
+{
+    PaletteTable table;
+    if (palette == SingleColorPalette)
+    {
+        table.fill(ownColor);
+        return table;
+    }
+    // A discretised transfer function over 0..256 has its first entry at 0 and its last at 256, and
+    // a byte takes the entry of its number: byte 254 the colour at 254.996. The brightest byte is
+    // drawn just below 255, with the entry before its own.
+    const std::span<const PaletteNode> nodes = GetPaletteNodes(palette);
+    size_t high = 1;
+    for (size_t byte = 0; byte + 1 < table.size(); ++byte)
+    {
+        const double value = static_cast<double>(byte) / 255.0 * 256.0;
+        while (value > nodes[high].Value)
+        {
+            ++high;
+        }
+        for (size_t channel = 0; channel < 3; ++channel)
+        {
+            table[byte][channel] = Interpolate(nodes[high - 1], nodes[high], channel, value);
+        }
+    }
+    table[255] = table[254];
+    return table;
+}
 
 PaletteTable GetPaletteTable(int32_t palette, const PaletteColor& ownColor)
 {

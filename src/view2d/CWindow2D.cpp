@@ -1,9 +1,9 @@
 #include "view2d/CWindow2D.h"
 
+#include "elements2d/CImageChart.h"
 #include "interaction2d/MyDefaultInteractorStyle2D.h"
 
 #include <vtkAxis.h>
-#include <vtkChartHistogram2D.h>
 #include <vtkContextActor.h>
 #include <vtkContextMouseEvent.h>
 #include <vtkContextScene.h>
@@ -42,7 +42,7 @@ int32_t CWindow2D::Create(bool noBorders, void* parentWindow, int32_t x, int32_t
         [&]() -> int32_t
         {
             vtkNew<vtkContextActor> actor;
-            Chart = vtkSmartPointer<vtkChartHistogram2D>::New();
+            Chart = vtkSmartPointer<CImageChart>::New();
             Scene = actor->GetScene();
             Scene->AddItem(Chart);
             Chart->SetShowLegend(false);

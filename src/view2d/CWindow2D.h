@@ -37,6 +37,10 @@ public:
     // Elements (CWindow2DElements.cpp)
     template <class Class, class... Geometry>
     int32_t AddElement(ChartFit fit, int32_t* elementId, Geometry... geometry);
+    // For a class of which a view has one element at most: adds it, or changes the one that is
+    // there and gives its id, without a render.
+    template <class Class, class... Geometry>
+    int32_t AddOnly(int32_t* elementId, Geometry... geometry);
     // Another geometry for an element: ends what is being drawn, if its class says so, and renders
     // whatever the element answers.
     template <class Class, class Action>
@@ -78,6 +82,28 @@ int32_t CWindow2D::AddElement(ChartFit fit, int32_t* elementId, Geometry... geom
         }
     };
     return WhenReady([&] { return Append<Class>(MakeSite(), elementId, finish, geometry...); });
+}
+
+template <class Class, class... Geometry>
+int32_t CWindow2D::AddOnly(int32_t* elementId, Geometry... geometry)
+{
+    return WhenReady(
+        [&]() -> int32_t
+        {
+            for (const std::unique_ptr<CElement_2D>& element : Elements)
+            {
+                if (element->ElementType == Class::Type)
+                {
+                    const int32_t status = static_cast<Class&>(*element).SetValue(geometry...);
+                    if (status == STATUS_OK)
+                    {
+                        *elementId = element->Id;
+                    }
+                    return status;
+                }
+            }
+            return AddElement<Class>(ChartFit::Keep, elementId, geometry...);
+        });
 }
 
 template <class Class, class Action>
