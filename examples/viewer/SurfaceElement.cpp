@@ -85,6 +85,34 @@ void SurfaceElement::Add(const HeightMap& map, const SurfaceLook& look)
           "Tarvex_Element_Add_SurfaceUniform");
 }
 
+void SurfaceElement::Replace(const HeightMap& map)
+{
+    const uint8_t* intensities = HasIntensities ? map.Intensities.data() : nullptr;
+    const double zScale = map.ZScale * Exaggeration;
+    const double zOffset = map.ZOffset * Exaggeration;
+    if (map.HasFreePositions())
+    {
+        Check(Tarvex_Element_SurfaceNonUniform_SetValue(
+                  View, Element, map.XSamples.data(), map.YSamples.data(), map.Samples.data(),
+                  intensities, map.Columns, map.Rows, map.XScale, map.YScale, zScale, map.XOffset,
+                  map.YOffset, zOffset),
+              "Tarvex_Element_SurfaceNonUniform_SetValue");
+        return;
+    }
+    Check(Tarvex_Element_SurfaceUniform_SetValue(View, Element, map.Samples.data(), intensities,
+                                                 map.Columns, map.Rows, map.XScale, map.YScale,
+                                                 zScale, map.XOffset, map.YOffset, zOffset),
+          "Tarvex_Element_SurfaceUniform_SetValue");
+}
+
+SurfaceColors SurfaceElement::Colors() const
+{
+    SurfaceColors colors;
+    Check(Calls.GetPalette(View, Element, &colors.Palette), "Tarvex_Element_GetPalette");
+    colors.Intensity = IntensityShown;
+    return colors;
+}
+
 void SurfaceElement::UseRange()
 {
     Check(Calls.SetRange(View, Element, Range.Fixed ? 0 : 1, Range.ClipPercent,
@@ -94,9 +122,7 @@ void SurfaceElement::UseRange()
 
 void SurfaceElement::UseNextPalette()
 {
-    uint32_t palette = 0;
-    Check(Calls.GetPalette(View, Element, &palette), "Tarvex_Element_GetPalette");
-    Check(Calls.SetPalette(View, Element, (palette + 1) % PaletteCount),
+    Check(Calls.SetPalette(View, Element, (Colors().Palette + 1) % PaletteCount),
           "Tarvex_Element_SetPalette");
 }
 

@@ -1,0 +1,68 @@
+#include "LineCharts.h"
+
+namespace
+{
+constexpr double ImageShare = 0.55; // of the height of both charts
+} // namespace
+
+LineCharts::LineCharts(void* parentWindow, uint32_t layout)
+    : ParentWindow(parentWindow), Layout(layout), Profile(parentWindow, layout)
+{
+}
+
+void LineCharts::Show(const HeightMap& map, int32_t row, const std::optional<SurfaceColors>& colors)
+{
+    if (!colors)
+    {
+        Image.reset();
+    }
+    else
+    {
+        if (!Image)
+        {
+            Image.emplace(ParentWindow, Layout);
+        }
+        Image->Show(map, row, *colors);
+    }
+    Profile.Show(map, row);
+    Place(Placed);
+}
+
+void LineCharts::Replace(const HeightMap& map, int32_t row,
+                         const std::optional<SurfaceColors>& colors)
+{
+    if (Image && colors)
+    {
+        Image->Replace(map, row, *colors);
+    }
+    Profile.Replace(map, row);
+}
+
+void LineCharts::MarkRow(const HeightMap& map, int32_t row)
+{
+    if (Image)
+    {
+        Image->MarkRow(map, row);
+    }
+    Profile.Replace(map, row);
+}
+
+void LineCharts::Place(const Box& box)
+{
+    Placed = box;
+    const int32_t imageHeight = Image ? static_cast<int32_t>(box.Height * ImageShare) : 0;
+    if (Image)
+    {
+        Image->Place({box.Left, box.Top, box.Width, imageHeight});
+    }
+    Profile.Place({box.Left, box.Top + imageHeight, box.Width, box.Height - imageHeight});
+}
+
+std::vector<View*> LineCharts::Views()
+{
+    if (!Image)
+    {
+        return {&Profile};
+    }
+    return {&*Image, &Profile};
+}
