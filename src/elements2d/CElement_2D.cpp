@@ -6,6 +6,7 @@
 #include "frame/NumberTest.h"
 
 #include <vtkChartHistogram2D.h>
+#include <vtkCommand.h>
 
 #include <algorithm>
 #include <cstring>
@@ -104,7 +105,7 @@ void CElement_2D::ApplyLook(vtkPlot* plot) const
     constexpr uint8_t opaque = 255;
     plot->SetColor(Color[0], Color[1], Color[2], opaque);
     plot->SetWidth(NarrowToFloat(Size));
-    plot->SetVisible(Valid && Shown);
+    plot->SetVisible(IsVisible());
 }
 
 vtkPlotPoints* CElement_2D::MakePlot(PlotKind kind, const CPlotTable& table, int markerStyle)
@@ -151,6 +152,22 @@ bool CElement_2D::AreOnTop(const std::vector<vtkPlotPoints*>& plots) const
     return index >= 0 &&
            std::all_of(plots.begin(), plots.end(),
                        [&](vtkPlotPoints* plot) { return Chart->GetPlot(index++) == plot; });
+}
+
+void CElement_2D::BringToTop()
+{
+    if (AreOnTop(Plots))
+    {
+        return;
+    }
+    for (vtkPlotPoints* plot : Plots)
+    {
+        const vtkSmartPointer<vtkPlotPoints> kept = plot;
+        RemovePlot(plot);
+        // The chart leaves its observer behind, and adds another one.
+        plot->RemoveObservers(vtkCommand::ModifiedEvent);
+        Chart->AddPlot(plot);
+    }
 }
 
 std::string MakeColumnName(const char* name, const char* kind, int32_t id)

@@ -22,6 +22,9 @@ struct ChartSite
 class CElement_2D : public CElement_Base
 {
 public:
+    // Whether another geometry for an element ends what the user is drawing in the view.
+    static constexpr bool EndsDrawing = false;
+
     CElement_2D(int32_t elementType, double size, uint8_t red, uint8_t green, uint8_t blue);
     ~CElement_2D() override;
 
@@ -60,6 +63,9 @@ protected:
     // True if the plots are the last ones of the chart, in this order: a changed element is drawn
     // on top of all others, and plots that are there already can stay.
     bool AreOnTop(const std::vector<vtkPlotPoints*>& plots) const;
+    // All plots on top of all others, in their order. Makes nothing anew.
+    void BringToTop();
+    bool IsVisible() const { return Valid && Shown; }
     // Colour, width and visibility, on all plots.
     virtual void ApplyLook();
     void ApplyLook(vtkPlot* plot) const;

@@ -29,13 +29,21 @@ void CPlotTable::Columns::Write(int32_t row, double x, double y) const
     Y[row] = ToFloat(y);
 }
 
+void CPlotTable::Reserve(int32_t rows)
+{
+    for (vtkFloatArray* column : {Y.Get(), X.Get()})
+    {
+        if (column->GetSize() < rows && !column->Resize(rows))
+        {
+            throw std::bad_alloc();
+        }
+    }
+}
+
 CPlotTable::Columns CPlotTable::Resize(int32_t rows)
 {
-    // Plots take their length from X: Y is never the shorter one, also when memory runs out
-    // between.
-    if (!Y->SetNumberOfValues(rows) || !X->SetNumberOfValues(rows))
-    {
-        throw std::bad_alloc();
-    }
+    Reserve(rows);
+    Y->SetNumberOfTuples(rows);
+    X->SetNumberOfTuples(rows);
     return {X->GetPointer(0), Y->GetPointer(0)};
 }

@@ -24,6 +24,8 @@ public:
         void Write(int32_t row, double x, double y) const;
     };
     Columns Resize(int32_t rows);
+    // Room for so many rows: a Resize up to there needs no memory.
+    void Reserve(int32_t rows);
     // Plots on this table take the new values with the next render.
     void Filled() { Table->Modified(); }
 

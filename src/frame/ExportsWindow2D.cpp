@@ -90,10 +90,10 @@ int32_t Tarvex_Window2D_SetActiveElement(int32_t windowId, int32_t elementId)
 int32_t Tarvex_Window2D_GetDrawMode(int32_t windowId, int32_t* mode)
 {
     ClearToNone(mode);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::GetDrawMode, mode);
 }
 
-int32_t Tarvex_Window2D_SetDrawMode(int32_t windowId, uint32_t /*mode*/)
+int32_t Tarvex_Window2D_SetDrawMode(int32_t windowId, uint32_t mode)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnView<CWindow2D>(windowId, &CWindow2D::SetDrawMode, mode);
 }

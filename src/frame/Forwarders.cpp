@@ -33,3 +33,37 @@ void ForwardDrawEnd(int32_t windowId)
 {
     CWindowManager::Forward<CWindow>(windowId, [&](CWindow& view) { view.DrawEnd(); });
 }
+
+int32_t ForwardFindHandle2D(int32_t windowId, double x, double y)
+{
+    int32_t handle = -1;
+    CWindowManager::Forward<CWindow2D>(windowId,
+                                       [&](CWindow2D& view) { handle = view.FindHandle(x, y); });
+    return handle;
+}
+
+void ForwardDrag2D(int32_t windowId, int32_t handle, double x, double y, bool finished)
+{
+    CWindowManager::Forward<CWindow2D>(windowId, [&](CWindow2D& view)
+                                       { view.DragActiveElement(handle, x, y, finished); });
+}
+
+void ForwardDrawDown2D(int32_t windowId, double x, double y)
+{
+    CWindowManager::Forward<CWindow2D>(windowId, [&](CWindow2D& view) { view.DrawDown(x, y); });
+}
+
+void ForwardDrawMove2D(int32_t windowId, double x, double y)
+{
+    CWindowManager::Forward<CWindow2D>(windowId, [&](CWindow2D& view) { view.DrawMove(x, y); });
+}
+
+void ForwardDrawUp2D(int32_t windowId, double x, double y)
+{
+    CWindowManager::Forward<CWindow2D>(windowId, [&](CWindow2D& view) { view.DrawUp(x, y); });
+}
+
+void ForwardDrawEnd2D(int32_t windowId)
+{
+    CWindowManager::Forward<CWindow2D>(windowId, [&](CWindow2D& view) { view.DrawEnd(); });
+}

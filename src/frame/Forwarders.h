@@ -13,3 +13,12 @@ void ForwardDrawDown(int32_t windowId, double x, double y, double z);
 void ForwardDrawMove(int32_t windowId, double x, double y, double z);
 void ForwardDrawUp(int32_t windowId, double x, double y, double z);
 void ForwardDrawEnd(int32_t windowId);
+
+// Those of chart views; all positions in chart coordinates.
+// Which handle of the active element is there; -1: none.
+int32_t ForwardFindHandle2D(int32_t windowId, double x, double y);
+void ForwardDrag2D(int32_t windowId, int32_t handle, double x, double y, bool finished);
+void ForwardDrawDown2D(int32_t windowId, double x, double y);
+void ForwardDrawMove2D(int32_t windowId, double x, double y);
+void ForwardDrawUp2D(int32_t windowId, double x, double y);
+void ForwardDrawEnd2D(int32_t windowId);

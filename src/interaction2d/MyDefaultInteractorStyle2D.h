@@ -1,38 +1,16 @@
-// The mouse style of a chart view while nothing is drawn: the chart's own pan and zoom, and a
-// picture after each event.
+// The mouse style of a chart view while nothing is drawn: handles, and the chart's own pan and
+// zoom.
 #pragma once
 
-#include <vtkContextInteractorStyle.h>
+#include "interaction2d/MyDragInteractorStyle2D.h"
 
-#include <cstdint>
-
-class vtkChartHistogram2D;
-class vtkRenderWindow;
-
-class MyDefaultInteractorStyle2D : public vtkContextInteractorStyle
+class MyDefaultInteractorStyle2D : public MyDragInteractorStyle2D
 {
 public:
     static MyDefaultInteractorStyle2D* New();
-    vtkTypeMacro(MyDefaultInteractorStyle2D, vtkContextInteractorStyle);
-
-    // Both borrowed; the view outlives its style's events.
-    void SetWindowContext(int32_t windowId, vtkChartHistogram2D* chart, vtkRenderWindow* window);
-
-    void OnMouseMove() override;
-    void OnLeftButtonUp() override;
-    void OnMiddleButtonUp() override;
-    void OnRightButtonUp() override;
-    void OnMouseWheelForward() override;
-    void OnMouseWheelBackward() override;
+    vtkTypeMacro(MyDefaultInteractorStyle2D, MyDragInteractorStyle2D);
 
 protected:
     MyDefaultInteractorStyle2D() = default;
     ~MyDefaultInteractorStyle2D() override = default;
-
-private:
-    void Render();
-
-    int32_t WindowId = -1;
-    vtkChartHistogram2D* Chart = nullptr;
-    vtkRenderWindow* Window = nullptr;
 };

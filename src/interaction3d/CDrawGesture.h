@@ -2,8 +2,8 @@
 #pragma once
 
 #include "elements3d/Directions.h"
+#include "interaction3d/DrawnLook.h"
 
-#include <cstdint>
 #include <optional>
 
 #include <vtkActor.h>
@@ -23,14 +23,6 @@ enum class DrawPlane : size_t
 
 // Where the mouse is, in host coordinates on the plane of the rubber band. None: the picker missed.
 using DrawPoint = std::optional<Vector3>;
-
-// What the rubber band looks like and the finished element takes over.
-struct DrawnLook
-{
-    static constexpr double Size = 1.0; // pixels
-    static constexpr double Transparency = 0.0;
-    static constexpr uint8_t Color[3] = {255, 255, 0};
-};
 
 // As it stands here, a shape that is drawn by press, drag and release; the right button drops it.
 class CDrawGesture

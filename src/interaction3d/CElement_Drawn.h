@@ -8,13 +8,6 @@
 #include "interaction3d/CDrawnDisc.h"
 #include "interaction3d/CDrawnVertices.h"
 
-enum class DrawGesture
-{
-    Box,
-    Disc,
-    Vertices
-};
-
 class CElement_Drawn
 {
 public:

@@ -1,6 +1,6 @@
 #include "interaction3d/MyDragInteractorStyle.h"
 
-#include "frame/CWindowManager.h"
+#include "frame/EventScope.h"
 
 #include <vtkActor.h>
 #include <vtkActorCollection.h>
@@ -9,18 +9,13 @@
 #include <vtkRenderer.h>
 #include <vtkRendererCollection.h>
 
-// Lives as long as a handler runs.
 class MyDragInteractorStyle::Handler
 {
 public:
-    explicit Handler(MyDragInteractorStyle* style) : Lock(&CWindowManager::GlobalLock), Style(style)
-    {
-        style->Picker.Forget();
-    }
+    explicit Handler(MyDragInteractorStyle* style) : Scope(style) { style->Picker.Forget(); }
 
 private:
-    CCriticalSection Lock;
-    vtkSmartPointer<MyDragInteractorStyle> Style;
+    EventScope Scope;
 };
 
 void MyDragInteractorStyle::SetMouseFlags(bool left, bool middle, bool right)

@@ -1,11 +1,13 @@
 #include "view2d/CWindow2D.h"
 
 #include "elements2d/CImageChart.h"
+#include "interaction2d/CElement2D_Drawn.h"
 #include "interaction2d/MyDefaultInteractorStyle2D.h"
+#include "interaction2d/MyDrawInteractorStyle2D.h"
 
 #include <vtkAxis.h>
+#include <vtkChartHistogram2D.h>
 #include <vtkContextActor.h>
-#include <vtkContextMouseEvent.h>
 #include <vtkContextScene.h>
 #include <vtkNew.h>
 #include <vtkOpenGLRenderer.h>
@@ -16,12 +18,13 @@ CWindow2D::~CWindow2D()
 {
     ElementAddedCallback = nullptr;
     ElementDraggedCallback = nullptr;
-    // Elements take their plots out of the chart, and a style may not look at a scene that changes
-    // when it has no interactor any more.
-    if (DefaultStyle)
+    // Elements take their plots out of the chart: nobody may look at it any more.
+    if (DrawStyle)
     {
-        DefaultStyle->SetScene(nullptr);
+        TakeStyle(nullptr);
     }
+    DragTarget = nullptr;
+    DrawnElement = nullptr;
     for (const std::unique_ptr<CElement_2D>& element : Elements)
     {
         element->LeaveView();
@@ -37,54 +40,42 @@ int32_t CWindow2D::Create(bool noBorders, void* parentWindow, int32_t x, int32_t
     {
         return STATUS_ALREADY_CREATED;
     }
-    return Guarded(
-        LastError,
-        [&]() -> int32_t
-        {
-            vtkNew<vtkContextActor> actor;
-            Chart = vtkSmartPointer<CImageChart>::New();
-            Scene = actor->GetScene();
-            Scene->AddItem(Chart);
-            Chart->SetShowLegend(false);
-            // Axes without a plot too: also while everything in the chart is hidden.
-            Chart->SetRenderEmpty(true);
-            Chart->AutoAxesOff();
+    return Guarded(LastError,
+                   [&]() -> int32_t
+                   {
+                       vtkNew<vtkContextActor> actor;
+                       Chart = vtkSmartPointer<CImageChart>::New();
+                       Scene = actor->GetScene();
+                       Scene->AddItem(Chart);
+                       Chart->SetShowLegend(false);
+                       // Axes without a plot too: also while everything in the chart is hidden.
+                       Chart->SetRenderEmpty(true);
+                       Chart->AutoAxesOff();
 
-            const bool multiSamples = false;
-            MakeWindow(vtkSmartPointer<vtkOpenGLRenderer>::New(), noBorders, parentWindow, x, y,
-                       width, height, multiSamples);
-            Renderer->AddActor(actor);
-            Scene->SetRenderer(Renderer);
+                       const bool multiSamples = false;
+                       MakeWindow(vtkSmartPointer<vtkOpenGLRenderer>::New(), noBorders,
+                                  parentWindow, x, y, width, height, multiSamples);
+                       Renderer->AddActor(actor);
+                       Scene->SetRenderer(Renderer);
 
-            DefaultStyle = vtkSmartPointer<MyDefaultInteractorStyle2D>::New();
-            DefaultStyle->SetWindowContext(Id, Chart, RenderWindow);
-            Interactor->SetInteractorStyle(DefaultStyle);
-            DefaultStyle->SetScene(Scene);
-            // The styles say when something has to be drawn.
-            Interactor->SetEnableRender(false);
+                       MakeStyles();
+                       // The styles say when something has to be drawn.
+                       Interactor->SetEnableRender(false);
 
-            for (const int side : {vtkAxis::BOTTOM, vtkAxis::LEFT})
-            {
-                vtkAxis* axis = Chart->GetAxis(side);
-                axis->SetBehavior(vtkAxis::FIXED);
-                axis->SetUnscaledMinimum(StartRange[0]);
-                axis->SetUnscaledMaximum(StartRange[1]);
-            }
-            Chart->SetActionToButton(vtkChart::ZOOM_AXIS, vtkContextMouseEvent::RIGHT_BUTTON);
-            Chart->SetActionToButton(vtkChart::PAN, vtkContextMouseEvent::LEFT_BUTTON);
-            Chart->SetActionToButton(vtkChart::ZOOM, vtkContextMouseEvent::MIDDLE_BUTTON);
-            SetChartLayout(TARVEX_CHART_DARK);
-            Refresh();
-            return STATUS_OK;
-        });
+                       for (const int side : {vtkAxis::BOTTOM, vtkAxis::LEFT})
+                       {
+                           vtkAxis* axis = Chart->GetAxis(side);
+                           axis->SetBehavior(vtkAxis::FIXED);
+                           axis->SetUnscaledMinimum(StartRange[0]);
+                           axis->SetUnscaledMaximum(StartRange[1]);
+                       }
+                       SetChartLayout(TARVEX_CHART_DARK);
+                       Refresh();
+                       return STATUS_OK;
+                   });
 }
 
 vtkChartHistogram2D* CWindow2D::GetChart() const
 {
     return Chart;
-}
-
-MyDefaultInteractorStyle2D* CWindow2D::GetDefaultStyle() const
-{
-    return DefaultStyle;
 }

@@ -6,7 +6,11 @@
 #include "elements2d/CElement_2D.h"
 #include "frame/CElementView.h"
 
+class CElement2D_Drawn;
+class CElement_Draggable2D;
 class MyDefaultInteractorStyle2D;
+class MyDragInteractorStyle2D;
+class MyDrawInteractorStyle2D;
 class vtkChartHistogram2D;
 class vtkContextScene;
 
@@ -49,18 +53,57 @@ public:
     int32_t RemoveAll();
     int32_t SetActiveElement(int32_t elementId);
 
+    // The mouse (CWindow2DInteraction.cpp), in chart coordinates
+    // The handle of the active element that a press takes; -1: none.
+    int32_t FindHandle(double x, double y);
+    void DragActiveElement(int32_t handle, double x, double y, bool finished);
+
+    // Draw modes (CWindow2DDraw.cpp)
+    int32_t GetDrawMode(int32_t* mode);
+    int32_t SetDrawMode(uint32_t mode);
+    void DrawDown(double x, double y);
+    void DrawMove(double x, double y);
+    void DrawUp(double x, double y);
+    void DrawEnd();
+
     vtkChartHistogram2D* GetChart() const;
     MyDefaultInteractorStyle2D* GetDefaultStyle() const;
+    MyDrawInteractorStyle2D* GetDrawStyle() const;
+    // The active element; null if there is none.
+    CElement_Draggable2D* GetDragTarget() const { return DragTarget; }
+
+    // How near to a handle, in X and in Y, the mouse takes it; in chart coordinates.
+    static constexpr double HandleTolerance = 1.0;
+
+protected:
+    // What the user is drawing stays on top of what was added meanwhile.
+    void Refresh() override;
 
 private:
     ChartSite MakeSite() const;
     // The box of all elements that have one; false if none has.
     bool CollectBounds(double bounds[4]) const;
     void FitAxes(const double bounds[4], bool keepAspect);
+    void MakeStyles();
+    // Gives the mouse to a style of this view, or to none, and ends what it was doing.
+    void TakeStyle(MyDragInteractorStyle2D* style);
+    int32_t EnterDrawMode(int32_t mode);
+    void FinishDrawing();
+    // Drops what the user is drawing.
+    void CancelDrawing();
+    // What the mouse may drag from now on. The one place to tell the styles: called when an element
+    // becomes active, and when the active one has changed.
+    void OfferDragTarget(CElement_Draggable2D* element);
+    // Every way out of "active" comes here.
+    void ClearDragTarget();
 
     vtkSmartPointer<vtkChartHistogram2D> Chart;
     vtkSmartPointer<vtkContextScene> Scene;
     vtkSmartPointer<MyDefaultInteractorStyle2D> DefaultStyle;
+    vtkSmartPointer<MyDrawInteractorStyle2D> DrawStyle;
+    std::unique_ptr<CElement2D_Drawn> DrawnElement; // only in a draw mode
+
+    CElement_Draggable2D* DragTarget = nullptr; // borrowed from Elements
 
     int32_t ChartLayout = -1;                              // before the first SetChartLayout
     double DrawSpace[4] = {-50.0, 50.0, -50.0, 50.0};      // xmin, xmax, ymin, ymax
@@ -109,7 +152,20 @@ int32_t CWindow2D::AddOnly(int32_t* elementId, Geometry... geometry)
 template <class Class, class Action>
 int32_t CWindow2D::ChangeElement(int32_t elementId, Action&& action)
 {
+    if (Class::EndsDrawing && Guard() == STATUS_OK && Elements.Find(elementId))
+    {
+        // Before the type test: also by a call that then finds an element of another type.
+        CancelDrawing();
+    }
     return OnElement<Class>(elementId, Render::Always,
                             [&](Class& element)
-                            { return Guarded(LastError, [&] { return action(element); }); });
+                            {
+                                const int32_t status =
+                                    Guarded(LastError, [&] { return action(element); });
+                                if (elementId == ActiveElementId)
+                                {
+                                    OfferDragTarget(DragTarget);
+                                }
+                                return status;
+                            });
 }
