@@ -119,12 +119,17 @@ vtkPlotPoints* CElement_2D::MakePlot(PlotKind kind, const CPlotTable& table, int
     {
         plot = vtkSmartPointer<CPointsPlot>::New();
     }
+    SetUpPlot(plot, table, markerStyle);
+    Chart->AddPlot(plot);
+    return plot;
+}
+
+void CElement_2D::SetUpPlot(vtkPlotPoints* plot, const CPlotTable& table, int markerStyle) const
+{
     plot->SetInputData(table.GetTable(), 0, 1);
     ApplyLook(plot);
     plot->SetSelectable(true);
     plot->SetMarkerStyle(markerStyle);
-    Chart->AddPlot(plot);
-    return plot;
 }
 
 void CElement_2D::RemovePlot(vtkPlot* plot)

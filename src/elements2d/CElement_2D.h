@@ -57,6 +57,8 @@ protected:
     // Adds a plot on top of all others, with the element's look. `markerStyle` is one of
     // vtkPlotPoints.
     vtkPlotPoints* MakePlot(PlotKind kind, const CPlotTable& table, int markerStyle);
+    // The same for a plot that is not in the chart yet.
+    void SetUpPlot(vtkPlotPoints* plot, const CPlotTable& table, int markerStyle) const;
     // Out of the chart, if it is in it.
     void RemovePlot(vtkPlot* plot);
     void RemovePlots();

@@ -1,18 +1,6 @@
 #include "elements2d/CPlotTable.h"
 
-#include <cmath>
-#include <limits>
 #include <new>
-
-namespace
-{
-float ToFloat(double value)
-{
-    return std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max())
-               ? static_cast<float>(value)
-               : std::numeric_limits<float>::quiet_NaN();
-}
-} // namespace
 
 CPlotTable::CPlotTable(const std::string& name)
 {
@@ -21,12 +9,6 @@ CPlotTable::CPlotTable(const std::string& name)
     Y->SetName(name.c_str());
     Table->AddColumn(X);
     Table->AddColumn(Y);
-}
-
-void CPlotTable::Columns::Write(int32_t row, double x, double y) const
-{
-    X[row] = ToFloat(x);
-    Y[row] = ToFloat(y);
 }
 
 void CPlotTable::Reserve(int32_t rows)
@@ -46,4 +28,11 @@ CPlotTable::Columns CPlotTable::Resize(int32_t rows)
     Y->SetNumberOfTuples(rows);
     X->SetNumberOfTuples(rows);
     return {X->GetPointer(0), Y->GetPointer(0)};
+}
+
+void CPlotTable::View(const Columns& columns, int32_t rows)
+{
+    constexpr int notOwned = 1;
+    X->SetArray(columns.X, rows, notOwned);
+    Y->SetArray(columns.Y, rows, notOwned);
 }

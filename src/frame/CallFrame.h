@@ -57,10 +57,12 @@ int32_t OnView(int32_t windowId, int32_t (Base::*method)(Parameters...), Argumen
 template <class Class>
 using ViewOf = std::conditional_t<std::is_base_of_v<CElement_2D, Class>, CWindow2D, CWindow>;
 
-template <class Class, class... Parameters, class... Arguments>
+// `Given` names the class where the method is that of a base class.
+template <class Given = void, class Base, class... Parameters, class... Arguments>
 int32_t OnElement(int32_t windowId, int32_t elementId, Render render,
-                  int32_t (Class::*method)(Parameters...), Arguments... arguments)
+                  int32_t (Base::*method)(Parameters...), Arguments... arguments)
 {
+    using Class = std::conditional_t<std::is_void_v<Given>, Base, Given>;
     return OnViewDo<ViewOf<Class>>(
         windowId,
         [&](ViewOf<Class>& view)

@@ -2,6 +2,8 @@
 #include "Tarvex.h"
 
 #include "elements2d/CElement_Image2D.h"
+#include "elements2d/CElementProfileNonUniform2D.h"
+#include "elements2d/CElementProfileUniform2D.h"
 #include "frame/CallFrame.h"
 
 int32_t Tarvex_Element2D_GetCount(int32_t windowId, int32_t* count)
@@ -68,105 +70,118 @@ int32_t Tarvex_Element2D_RemoveAll(int32_t windowId)
     return OnView<CWindow2D>(windowId, &CWindow2D::RemoveAll);
 }
 
-int32_t Tarvex_Element2D_Add_ProfileNonUniform_GeneralData(int32_t windowId, const double* /*x*/,
-                                                           const double* /*y*/,
-                                                           const uint8_t* /*valid*/,
-                                                           int32_t /*count*/, int32_t* elementId,
-                                                           const char* /*name*/)
+int32_t Tarvex_Element2D_Add_ProfileNonUniform_GeneralData(int32_t windowId, const double* x,
+                                                           const double* y, const uint8_t* valid,
+                                                           int32_t count, int32_t* elementId,
+                                                           const char* name)
 {
     ClearToNone(elementId);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnAddToChart<CElementProfileNonUniform2D>(windowId, ChartFit::Fill, elementId, x, y,
+                                                     valid, count, name);
 }
 
-int32_t Tarvex_Element2D_Add_ProfileNonUniform_KorData(int32_t windowId, const int16_t* /*x*/,
-                                                       const int16_t* /*z*/, int32_t /*count*/,
-                                                       double /*xScale*/, double /*zScale*/,
-                                                       double /*xOffset*/, double /*zOffset*/,
-                                                       int32_t* elementId, const char* /*name*/)
+int32_t Tarvex_Element2D_Add_ProfileNonUniform_KorData(int32_t windowId, const int16_t* x,
+                                                       const int16_t* z, int32_t count,
+                                                       double xScale, double zScale, double xOffset,
+                                                       double zOffset, int32_t* elementId,
+                                                       const char* name)
 {
     ClearToNone(elementId);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnAddToChart<CElementProfileNonUniform2D>(windowId, ChartFit::KeepAspect, elementId, x,
+                                                     z, count, xScale, zScale, xOffset, zOffset,
+                                                     name);
 }
 
-int32_t Tarvex_Element2D_Add_ProfileUniform(int32_t windowId, const int16_t* /*z*/,
-                                            int32_t /*count*/, double /*xSpacing*/,
-                                            double /*zScale*/, double /*xStart*/,
-                                            double /*zOffset*/, int32_t* elementId)
+int32_t Tarvex_Element2D_Add_ProfileUniform(int32_t windowId, const int16_t* z, int32_t count,
+                                            double xSpacing, double zScale, double xStart,
+                                            double zOffset, int32_t* elementId)
 {
     ClearToNone(elementId);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnAddToChart<CElementProfileUniform2D>(windowId, ChartFit::KeepAspect, elementId, z,
+                                                  count, xSpacing, zScale, xStart, zOffset);
 }
 
-int32_t Tarvex_Element2D_ProfileNonUniform_SetValue_GeneralData(
-    int32_t windowId, int32_t /*elementId*/, int32_t /*count*/, const double* /*x*/,
-    const double* /*y*/, const uint8_t* /*valid*/)
+int32_t Tarvex_Element2D_ProfileNonUniform_SetValue_GeneralData(int32_t windowId, int32_t elementId,
+                                                                int32_t count, const double* x,
+                                                                const double* y,
+                                                                const uint8_t* valid)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnChange(windowId, elementId, &CElementProfileNonUniform2D::SetValue_GeneralData, count,
+                    x, y, valid);
 }
 
-int32_t Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(int32_t windowId, int32_t /*elementId*/,
-                                                            int32_t /*count*/, const int16_t* /*x*/,
-                                                            const int16_t* /*z*/, double /*xScale*/,
-                                                            double /*zScale*/, double /*xOffset*/,
-                                                            double /*zOffset*/)
+int32_t Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(int32_t windowId, int32_t elementId,
+                                                            int32_t count, const int16_t* x,
+                                                            const int16_t* z, double xScale,
+                                                            double zScale, double xOffset,
+                                                            double zOffset)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnChange(windowId, elementId, &CElementProfileNonUniform2D::SetValue_KorData, count, x,
+                    z, xScale, zScale, xOffset, zOffset);
 }
 
-int32_t Tarvex_Element2D_ProfileNonUniform_AttachValues_GeneralData(
-    int32_t windowId, int32_t /*elementId*/, int32_t /*count*/, const double* /*x*/,
-    const double* /*y*/, const uint8_t* /*valid*/)
+int32_t Tarvex_Element2D_ProfileNonUniform_AttachValues_GeneralData(int32_t windowId,
+                                                                    int32_t elementId,
+                                                                    int32_t count, const double* x,
+                                                                    const double* y,
+                                                                    const uint8_t* valid)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnChange(windowId, elementId, &CElementProfileNonUniform2D::AttachValues_GeneralData,
+                    count, x, y, valid);
 }
 
-int32_t Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(
-    int32_t windowId, int32_t /*elementId*/, int32_t /*count*/, const int16_t* /*x*/,
-    const int16_t* /*z*/, double /*xScale*/, double /*zScale*/, double /*xOffset*/,
-    double /*zOffset*/)
+int32_t Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(int32_t windowId, int32_t elementId,
+                                                                int32_t count, const int16_t* x,
+                                                                const int16_t* z, double xScale,
+                                                                double zScale, double xOffset,
+                                                                double zOffset)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnChange(windowId, elementId, &CElementProfileNonUniform2D::AttachValues_KorData, count,
+                    x, z, xScale, zScale, xOffset, zOffset);
 }
 
-int32_t Tarvex_Element2D_ProfileNonUniform_GetPointCount(int32_t windowId, int32_t /*elementId*/,
+int32_t Tarvex_Element2D_ProfileNonUniform_GetPointCount(int32_t windowId, int32_t elementId,
                                                          int32_t* count)
 {
     ClearToZero(count);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement<CElementProfileNonUniform2D>(windowId, elementId, Render::Never,
+                                                  &CElementProfile2D::GetPointCount, count);
 }
 
-int32_t Tarvex_Element2D_ProfileNonUniform_GetValue(int32_t windowId, int32_t /*elementId*/,
-                                                    double* /*x*/, double* /*y*/,
-                                                    uint8_t* /*valid*/)
+int32_t Tarvex_Element2D_ProfileNonUniform_GetValue(int32_t windowId, int32_t elementId, double* x,
+                                                    double* y, uint8_t* valid)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement<CElementProfileNonUniform2D>(windowId, elementId, Render::Never,
+                                                  &CElementProfile2D::GetValue, x, y, valid);
 }
 
-int32_t Tarvex_Element2D_ProfileNonUniform_SetMarkerSize(int32_t windowId, int32_t /*elementId*/,
-                                                         double /*size*/)
+int32_t Tarvex_Element2D_ProfileNonUniform_SetMarkerSize(int32_t windowId, int32_t elementId,
+                                                         double size)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnChange(windowId, elementId, &CElementProfileNonUniform2D::SetMarkerSize, size);
 }
 
-int32_t Tarvex_Element2D_ProfileUniform_SetValue(int32_t windowId, int32_t /*elementId*/,
-                                                 int32_t /*count*/, const int16_t* /*z*/,
-                                                 double /*xSpacing*/, double /*zScale*/,
-                                                 double /*xStart*/, double /*zOffset*/)
+int32_t Tarvex_Element2D_ProfileUniform_SetValue(int32_t windowId, int32_t elementId, int32_t count,
+                                                 const int16_t* z, double xSpacing, double zScale,
+                                                 double xStart, double zOffset)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnChange(windowId, elementId, &CElementProfileUniform2D::SetValue, count, z, xSpacing,
+                    zScale, xStart, zOffset);
 }
 
-int32_t Tarvex_Element2D_ProfileUniform_GetPointCount(int32_t windowId, int32_t /*elementId*/,
+int32_t Tarvex_Element2D_ProfileUniform_GetPointCount(int32_t windowId, int32_t elementId,
                                                       int32_t* count)
 {
     ClearToZero(count);
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement<CElementProfileUniform2D>(windowId, elementId, Render::Never,
+                                               &CElementProfile2D::GetPointCount, count);
 }
 
-int32_t Tarvex_Element2D_ProfileUniform_GetValue(int32_t windowId, int32_t /*elementId*/,
-                                                 double* /*x*/, double* /*y*/, uint8_t* /*valid*/)
+int32_t Tarvex_Element2D_ProfileUniform_GetValue(int32_t windowId, int32_t elementId, double* x,
+                                                 double* y, uint8_t* valid)
 {
-    return NotBuilt<CWindow2D>(windowId);
+    return OnElement<CElementProfileUniform2D>(windowId, elementId, Render::Never,
+                                               &CElementProfile2D::GetValue, x, y, valid);
 }
 
 int32_t Tarvex_Element2D_Add_ImageByte(int32_t windowId, const uint8_t* pixels, int32_t width,
