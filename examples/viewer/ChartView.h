@@ -8,7 +8,8 @@
 class ChartView : public View
 {
 public:
-    // The layout is one of TARVEX_CHART_...; an equal aspect draws a unit equally long on both axes.
+    // The layout is one of TARVEX_CHART_...; an equal aspect draws a unit equally long on both
+    // axes.
     ChartView(void* parentWindow, uint32_t layout, bool equalAspect);
     ~ChartView() override;
 

@@ -34,9 +34,8 @@ void PrintValues(const char* name, int32_t dimensions, int32_t view, int32_t ele
     std::tuple<Numbers...> values;
     Check(std::apply([&](auto&... value) { return getValue(view, element, &value...); }, values),
           name);
-    const auto numbers = std::apply([](auto... value)
-                                    { return std::vector<double>{static_cast<double>(value)...}; },
-                                    values);
+    const auto numbers = std::apply(
+        [](auto... value) { return std::vector<double>{static_cast<double>(value)...}; }, values);
     const auto measures = numbers.begin() + dimensions;
     std::printf("%s at ", name);
     PrintPoint({numbers.begin(), measures});
@@ -79,8 +78,8 @@ void PrintPolygonOfView(int32_t view, int32_t element)
     PrintPolygon(3, count,
                  [&](std::vector<Coordinates>& axes, uint8_t& closed)
                  {
-                     return Tarvex_Element_Polygon_GetValue(view, element, axes[0].data(),
-                                                            axes[1].data(), axes[2].data(), &closed);
+                     return Tarvex_Element_Polygon_GetValue(
+                         view, element, axes[0].data(), axes[1].data(), axes[2].data(), &closed);
                  });
 }
 

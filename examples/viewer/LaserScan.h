@@ -21,3 +21,8 @@ constexpr std::array<Spot, 10> PlateOutline = {{{0.248, 0.002},
                                                 {0.997, 0.042},
                                                 {0.997, 0.405}}};
 constexpr Spot PlateCorner = {0.248, 0.405};
+
+// Lines across the scan: a row through the cylinder, a column over block and plate beside it.
+constexpr Spot Cut = {0.72, 0.62};
+// A region of the block as an inspection would choose it.
+constexpr Spot RegionMiddle = {0.64, 0.80};

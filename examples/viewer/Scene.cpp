@@ -80,9 +80,9 @@ Scene LoadScene(const std::string& file, const Options& options)
         options.Exaggeration.value_or(ChooseExaggeration(scene.Map, scene.Statistics));
     RequireFit(scene.Map, scene.Look.Surface.Exaggeration, options);
     // A chart draws heights as they are.
-    scene.Title = MakeTitle(file, scene.Map,
-                            options.Scene == SceneKind::Charts ? 1.0
-                                                               : scene.Look.Surface.Exaggeration);
+    scene.Title =
+        MakeTitle(file, scene.Map,
+                  options.Scene == SceneKind::Charts ? 1.0 : scene.Look.Surface.Exaggeration);
     if (options.Print)
     {
         std::printf("%s\n", file.c_str());

@@ -4,13 +4,15 @@
 #include "Stage.h"
 #include "SurfaceView.h"
 
+#include <cstdint>
 #include <optional>
+#include <vector>
 
 // The charts beside the 3D view.
 struct ChartLook
 {
-    uint32_t Layout = 0;         // one of TARVEX_CHART_...
-    std::optional<int32_t> Row;  // marked first; none: the middle one
+    uint32_t Layout = 0;        // one of TARVEX_CHART_...
+    std::optional<int32_t> Row; // marked first; none: the middle one
 };
 
 // A 3D view of a measurement: alone, or with charts of a marked row on the right. Throws

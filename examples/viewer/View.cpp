@@ -53,9 +53,9 @@ bool ReactToViewKey(View& view, unsigned long key)
     }
 }
 
-RgbPicture CopyPicture(int32_t view, int32_t (*copyImage)(int32_t view, uint8_t* rgb,
-                                                          int32_t capacity, int32_t* width,
-                                                          int32_t* height))
+RgbPicture CopyPicture(int32_t view,
+                       int32_t (*copyImage)(int32_t view, uint8_t* rgb, int32_t capacity,
+                                            int32_t* width, int32_t* height))
 {
     RgbPicture picture;
     Check(copyImage(view, nullptr, 0, &picture.Width, &picture.Height), "CopyImage");

@@ -51,9 +51,9 @@ public:
 bool ReactToViewKey(View& view, unsigned long key);
 
 // The last picture of a view by one of the library's two calls for it.
-RgbPicture CopyPicture(int32_t view, int32_t (*copyImage)(int32_t view, uint8_t* rgb,
-                                                          int32_t capacity, int32_t* width,
-                                                          int32_t* height));
+RgbPicture CopyPicture(int32_t view,
+                       int32_t (*copyImage)(int32_t view, uint8_t* rgb, int32_t capacity,
+                                            int32_t* width, int32_t* height));
 
 // The library has one set of these calls for 3D views and one for charts.
 struct ActiveElementCalls
