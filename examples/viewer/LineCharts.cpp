@@ -1,8 +1,15 @@
 #include "LineCharts.h"
 
+#include <algorithm>
+
 namespace
 {
-constexpr double ImageShare = 0.55; // of the height of both charts
+// What the image may take of the height of both charts.
+constexpr double LeastImageShare = 0.35;
+constexpr double MostImageShare = 0.65;
+// About what the axes take around it, in pixels.
+constexpr int32_t AxesWidth = 90;
+constexpr int32_t AxesHeight = 80;
 } // namespace
 
 LineCharts::LineCharts(void* parentWindow, uint32_t layout)
@@ -22,6 +29,8 @@ void LineCharts::Show(const HeightMap& map, int32_t row, const std::optional<Sur
         {
             Image.emplace(ParentWindow, Layout);
         }
+        const Extent extent = DescribeExtent(map);
+        ImageAspect = extent.Depth() / extent.Width();
         Image->Show(map, row, *colors);
     }
     Profile.Show(map, row);
@@ -50,7 +59,11 @@ void LineCharts::MarkRow(const HeightMap& map, int32_t row)
 void LineCharts::Place(const Box& box)
 {
     Placed = box;
-    const int32_t imageHeight = Image ? static_cast<int32_t>(box.Height * ImageShare) : 0;
+    const double wanted = std::max(0, box.Width - AxesWidth) * ImageAspect + AxesHeight;
+    const int32_t imageHeight =
+        Image ? static_cast<int32_t>(
+                    std::clamp(wanted, LeastImageShare * box.Height, MostImageShare * box.Height))
+              : 0;
     if (Image)
     {
         Image->Place({box.Left, box.Top, box.Width, imageHeight});

@@ -28,6 +28,7 @@ private:
     void* ParentWindow;
     uint32_t Layout;
     Box Placed;
+    double ImageAspect = 1.0; // height over width
     std::optional<ImageChart> Image;
     ProfileChart Profile;
 };

@@ -12,7 +12,7 @@
 namespace
 {
 constexpr const char* ProfileName = "marked row";
-constexpr double MarkerSize = 3.0; // the library marks each sample of the General form
+constexpr double MarkerSize = 1.5; // the library marks each sample of the General form
 
 // An element that nobody sees but that counts when the axes are fitted to all elements.
 void ReserveRange(int32_t chart, const HeightMap& map)

@@ -222,7 +222,9 @@ void SurfaceView::ShowFrom(int32_t predefinedView)
 void SurfaceView::ComeNearer(double most)
 {
     const bool hasBar = Around.Bar && ShownSurface;
-    Zoom(std::min(most, hasBar ? NearerWithBar : Around.Frame ? NearerWithFrame : Nearer));
+    // The library lets the height of the view decide, whatever its width.
+    const double narrow = std::min(1.0, static_cast<double>(Placed.Width) / Placed.Height);
+    Zoom(narrow * std::min(most, hasBar ? NearerWithBar : Around.Frame ? NearerWithFrame : Nearer));
     if (!hasBar)
     {
         return;
