@@ -1,4 +1,4 @@
-// What most tests start from: a host's window with one 3D view in it, and calls with lists of
+// What most tests start from: a host's window with one view in it, and calls with lists of
 // numbers, so that cases fit into tables.
 #pragma once
 
@@ -98,15 +98,10 @@ inline bool IsLit(const Picture::Color& color)
     return color != Picture::Color{0, 0, 0};
 }
 
-class ViewFixture : public testing::Test
+// A host's window, and calls on a view in it.
+class HostFixture : public testing::Test
 {
 protected:
-    ViewFixture()
-    {
-        EXPECT_EQ(Tarvex_Window_Create(Host.Handle(), 1, 0, 0, Pixels, Pixels, &Id), STATUS_OK);
-    }
-    ~ViewFixture() override { Tarvex_Window_Delete(Id); }
-
     int32_t Call(const Export& function, const Numbers& given) const
     {
         Numbers outputs;
@@ -130,6 +125,26 @@ protected:
         EXPECT_EQ(function.Perform(Id, given, id), STATUS_OK);
         return static_cast<int32_t>(id.at(0));
     }
+
+    static constexpr int Pixels = 200; // width and height of the view
+    static constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+    static constexpr double Infinity = std::numeric_limits<double>::infinity();
+    static constexpr double Marker = std::numeric_limits<double>::max(); // stands for no value
+
+    TestHost Host{Pixels, Pixels};
+    int32_t Id = TARVEX_NONE;
+};
+
+// With a 3D view.
+class ViewFixture : public HostFixture
+{
+protected:
+    ViewFixture()
+    {
+        EXPECT_EQ(Tarvex_Window_Create(Host.Handle(), 1, 0, 0, Pixels, Pixels, &Id), STATUS_OK);
+    }
+    ~ViewFixture() override { Tarvex_Window_Delete(Id); }
+
     int32_t AddPoint(double x, double y, double z) const
     {
         return Add(Tarvex_Element_Add_Point, {x, y, z});
@@ -137,10 +152,6 @@ protected:
     int32_t AddLine(double x, double y, double z, double dx, double dy, double dz) const
     {
         return Add(Tarvex_Element_Add_Line, {x, y, z, dx, dy, dz});
-    }
-    bool IsValid(int32_t element) const
-    {
-        return Read(Tarvex_Element_HasValidValues, element) == Numbers{1};
     }
     // The camera 100 units over the origin, whatever the scene holds, looking down: the picture is
     // about 53.6 units high there.
@@ -150,12 +161,24 @@ protected:
         EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 0, 0, 100), STATUS_OK);
     }
     int CountLit() const { return TakePicture(Id).Count(IsLit); }
+    bool IsValid(int32_t element) const
+    {
+        return Read(Tarvex_Element_HasValidValues, element) == Numbers{1};
+    }
+};
 
-    static constexpr int Pixels = 200; // width and height of the view
-    static constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
-    static constexpr double Infinity = std::numeric_limits<double>::infinity();
-    static constexpr double Marker = std::numeric_limits<double>::max(); // stands for no value
+// With a chart view.
+class ChartFixture : public HostFixture
+{
+protected:
+    ChartFixture()
+    {
+        EXPECT_EQ(Tarvex_Window2D_Create(Host.Handle(), 1, 0, 0, Pixels, Pixels, &Id), STATUS_OK);
+    }
+    ~ChartFixture() override { Tarvex_Window2D_Delete(Id); }
 
-    TestHost Host{Pixels, Pixels};
-    int32_t Id = TARVEX_NONE;
+    bool IsValid(int32_t element) const
+    {
+        return Read(Tarvex_Element2D_HasValidValues, element) == Numbers{1};
+    }
 };
