@@ -7,6 +7,21 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <new>
+
+namespace
+{
+// Asks for very much as a whole first: a system may promise each part of what it cannot hold
+// together.
+bool CanHold(size_t samples)
+{
+    constexpr size_t much = size_t{1} << 30U;
+    const size_t bytes = samples * (2 * sizeof(double) + 2 * sizeof(float));
+    return bytes < much ||
+           std::unique_ptr<void, decltype(&std::free)>(std::malloc(bytes), &std::free);
+}
+} // namespace
 
 CElementProfile2D::CElementProfile2D(int32_t elementType)
     : CElement_2D(elementType, 1.0, 255, 255, 255)
@@ -20,14 +35,6 @@ void CElementProfile2D::Begin(const ChartSite& site, std::string columnName)
     TakeSite(site);
     ColumnName = std::move(columnName);
     Color[1] = Color[2] = 0;
-}
-
-CElementProfile2D::SampleStore::SampleStore(size_t capacity)
-    : X(std::make_unique_for_overwrite<double[]>(capacity)),
-      Y(std::make_unique_for_overwrite<double[]>(capacity)),
-      PlotX(std::make_unique_for_overwrite<float[]>(capacity)),
-      PlotY(std::make_unique_for_overwrite<float[]>(capacity)), Capacity(capacity)
-{
 }
 
 void CElementProfile2D::Extent::Include(double x, double y)
@@ -74,7 +81,7 @@ int32_t CElementProfile2D::Take(const Samples& samples, int32_t kept, int32_t co
         return STATUS_OUT_OF_MEMORY;
     }
     // All that asks for memory comes first.
-    SampleStore larger = MakeRoom(kept, count);
+    Reserve(static_cast<size_t>(kept) + static_cast<size_t>(count));
     std::vector<Run> runs;
     size_t firstRun = 0;
     if (kept > 0)
@@ -86,11 +93,6 @@ int32_t CElementProfile2D::Take(const Samples& samples, int32_t kept, int32_t co
     FindRuns(samples, kept, count, runs);
     NewPlots added = MakePlots(runs.size());
 
-    const bool moved = larger.Capacity > 0;
-    if (moved)
-    {
-        std::swap(Store, larger);
-    }
     Runs.swap(runs);
     SampleCount = kept + count;
     if (kept == 0)
@@ -99,33 +101,41 @@ int32_t CElementProfile2D::Take(const Samples& samples, int32_t kept, int32_t co
     }
     Write(samples, kept, count, firstRun);
     ArrangePlots(std::move(added), Runs.size());
-    for (size_t run = moved ? 0 : firstRun; run < Runs.size(); ++run)
+    ShowRuns(firstRun);
+    for (size_t run = firstRun; run < Runs.size(); ++run)
     {
-        ShowRun(run);
-        if (run >= firstRun)
-        {
-            Tables[run]->Filled();
-        }
+        ApplyMarkers(Plots[run], Runs[run].GetLength());
+        Tables[run]->Filled();
     }
     return STATUS_OK;
 }
 
-CElementProfile2D::SampleStore CElementProfile2D::MakeRoom(int32_t kept, int32_t count) const
+void CElementProfile2D::Reserve(size_t count)
 {
-    const size_t needed = static_cast<size_t>(kept) + static_cast<size_t>(count);
-    // A store that was once much larger is given back.
-    constexpr size_t muchLarger = 8;
-    if (needed <= Store.Capacity && (kept > 0 || Store.Capacity / muchLarger <= needed))
+    if (count <= Capacity)
     {
-        return {};
+        return;
     }
-    // Growing by half as much again, so that many small additions do not copy all each time.
-    SampleStore larger(kept > 0 ? std::max(needed, Store.Capacity + Store.Capacity / 2) : needed);
-    std::copy_n(Store.X.get(), kept, larger.X.get());
-    std::copy_n(Store.Y.get(), kept, larger.Y.get());
-    std::copy_n(Store.PlotX.get(), kept, larger.PlotX.get());
-    std::copy_n(Store.PlotY.get(), kept, larger.PlotY.get());
-    return larger;
+    const auto grow = [this](size_t capacity)
+    {
+        const bool grown = CanHold(capacity) && X.Resize(capacity) && Y.Resize(capacity) &&
+                           PlotX.Resize(capacity) && PlotY.Resize(capacity);
+        ShowRuns(0);
+        return grown;
+    };
+    // By at least as much again, so that many small additions do not move all each time. Room that
+    // is not used costs no memory yet; but a system may not promise it.
+    const size_t generous = std::max(count, 2 * Capacity);
+    if (grow(generous))
+    {
+        Capacity = generous;
+        return;
+    }
+    if (!grow(count))
+    {
+        throw std::bad_alloc();
+    }
+    Capacity = count;
 }
 
 template <class Samples>
@@ -159,9 +169,9 @@ void CElementProfile2D::FindRuns(const Samples& samples, int32_t kept, int32_t c
 template <class Samples>
 void CElementProfile2D::Write(const Samples& samples, int32_t kept, int32_t count, size_t firstRun)
 {
-    double* const x = Store.X.get();
-    double* const y = Store.Y.get();
-    const CPlotTable::Columns columns{Store.PlotX.get(), Store.PlotY.get()};
+    double* const x = X.Get();
+    double* const y = Y.Get();
+    const CPlotTable::Columns columns{PlotX.Get(), PlotY.Get()};
     Extent extent = Bounds;
     int32_t sample = kept;
     const auto skipGap = [&](int32_t end)
@@ -219,19 +229,20 @@ void CElementProfile2D::ArrangePlots(NewPlots added, size_t count)
     std::move(added.Tables.begin(), added.Tables.end(), std::back_inserter(Tables));
 }
 
-void CElementProfile2D::ShowRun(size_t run)
+void CElementProfile2D::ShowRuns(size_t firstRun)
 {
-    const int32_t start = Runs[run].Start;
-    const int32_t rows = Runs[run].GetLength();
-    Tables[run]->View({Store.PlotX.get() + start, Store.PlotY.get() + start}, rows);
-    ApplyMarkers(Plots[run], rows);
+    for (size_t run = firstRun; run < Runs.size(); ++run)
+    {
+        const int32_t start = Runs[run].Start;
+        Tables[run]->View({PlotX.Get() + start, PlotY.Get() + start}, Runs[run].GetLength());
+    }
 }
 
 void CElementProfile2D::DropFirstXIfInvalid()
 {
     if (!HasRuns() || Runs.front().Start > 0)
     {
-        Store.X[0] = 0.0;
+        X.Get()[0] = 0.0;
     }
 }
 
@@ -265,8 +276,8 @@ int32_t CElementProfile2D::GetValue(double* x, double* y, uint8_t* valid)
     {
         return STATUS_NULL_ARGUMENT;
     }
-    std::copy_n(Store.X.get(), SampleCount, x);
-    std::copy_n(Store.Y.get(), SampleCount, y);
+    std::copy_n(X.Get(), SampleCount, x);
+    std::copy_n(Y.Get(), SampleCount, y);
     std::fill_n(valid, SampleCount, uint8_t{0});
     for (const Run& run : Runs)
     {

@@ -4,6 +4,7 @@
 
 #include "Tarvex.h"
 #include "elements2d/CElement_2D.h"
+#include "elements2d/CGrowingArray.h"
 #include "elements2d/CPlotTable.h"
 
 #include <limits>
@@ -51,18 +52,6 @@ private:
 
         int32_t GetLength() const { return End - Start; }
     };
-    // For each sample the place that the host reads back, and that of the plots.
-    struct SampleStore
-    {
-        SampleStore() = default;
-        explicit SampleStore(size_t capacity);
-
-        std::unique_ptr<double[]> X;
-        std::unique_ptr<double[]> Y; // 0 for an invalid sample
-        std::unique_ptr<float[]> PlotX;
-        std::unique_ptr<float[]> PlotY;
-        size_t Capacity = 0;
-    };
     // Of the finite valid samples; turned inside out without any.
     struct Extent
     {
@@ -87,15 +76,21 @@ private:
                          std::vector<Run>& runs);
     template <class Samples>
     void Write(const Samples& samples, int32_t kept, int32_t count, size_t firstRun);
-    // With the kept samples in it; without capacity when the present store will do.
-    SampleStore MakeRoom(int32_t kept, int32_t count) const;
+    // Room for so many samples; the present ones stay.
+    void Reserve(size_t count);
     NewPlots MakePlots(size_t count);
     void ArrangePlots(NewPlots added, size_t count);
-    void ShowRun(size_t run);
+    // Tells the tables from the given run on where their samples lie.
+    void ShowRuns(size_t firstRun);
 
     std::string ColumnName;
     int32_t SampleCount = 0;
-    SampleStore Store;
+    // For each sample the place that the host reads back, and that of the plots.
+    CGrowingArray<double> X;
+    CGrowingArray<double> Y; // 0 for an invalid sample
+    CGrowingArray<float> PlotX;
+    CGrowingArray<float> PlotY;
+    size_t Capacity = 0;   // of each of them
     std::vector<Run> Runs; // in order; no two of them touch
     Extent Bounds;
     std::vector<std::unique_ptr<CPlotTable>> Tables; // one for each run, as the plots are

@@ -1,0 +1,365 @@
+// Measured lines in charts: runs, plots, what a host reads back, and the same picture as stock
+// plots give.
+#include "LiteralChartProfile.h"
+#include "Tarvex.h"
+#include "TarvexExt.h"
+#include "frame/CWindowManager.h"
+#include "frame/FailingAllocations.h"
+#include "support/Picture.h"
+#include "support/TestHost.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include <vtkChartHistogram2D.h>
+#include <vtkFloatArray.h>
+#include <vtkPlotPoints.h>
+#include <vtkTable.h>
+
+namespace
+{
+constexpr int16_t Gap = TARVEX_INVALID_VALUE;
+constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+using Heights = std::vector<int16_t>;
+using testing::ElementsAre;
+
+class Profiles2D : public testing::Test
+{
+protected:
+    Profiles2D()
+    {
+        EXPECT_EQ(Tarvex_Window2D_Create(Host.Handle(), 1, 0, 0, 400, 300, &Id), STATUS_OK);
+        Do([this](CWindow2D& view) { Chart = view.GetChart(); });
+    }
+    ~Profiles2D() override { Tarvex_Window2D_Delete(Id); }
+
+    template <class Action>
+    void Do(Action&& action) const
+    {
+        CWindowManager::Instance->Call<CWindow2D>(Id,
+                                                  [&](CWindow2D& view) -> int32_t
+                                                  {
+                                                      action(view);
+                                                      return STATUS_OK;
+                                                  });
+    }
+    // X counts from 0.
+    static Heights CountX(size_t count)
+    {
+        Heights x(count);
+        std::generate(x.begin(), x.end(), [next = int16_t{0}]() mutable { return next++; });
+        return x;
+    }
+    int32_t AddKor(const Heights& z, double zScale = 1.0, const char* name = nullptr)
+    {
+        EXPECT_EQ(Tarvex_Element2D_Add_ProfileNonUniform_KorData(
+                      Id, CountX(z.size()).data(), z.data(), static_cast<int32_t>(z.size()), 1.0,
+                      zScale, 0.0, 0.0, &Element, name),
+                  STATUS_OK);
+        return Element;
+    }
+    int32_t SetKor(const Heights& z) const
+    {
+        return Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(
+            Id, Element, static_cast<int32_t>(z.size()), CountX(z.size()).data(), z.data(), 1.0,
+            1.0, 0.0, 0.0);
+    }
+    int32_t Attach(const Heights& z) const
+    {
+        return Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(
+            Id, Element, static_cast<int32_t>(z.size()), CountX(z.size()).data(), z.data(), 1.0,
+            1.0, 100.0, 0.0);
+    }
+    vtkPlotPoints* GetPlot(vtkIdType index) const
+    {
+        return vtkPlotPoints::SafeDownCast(Chart->GetPlot(index));
+    }
+    // For each plot the number of its rows; negative where it has crosses. The first plot of the
+    // chart is that of the image.
+    std::vector<int> Rows() const
+    {
+        std::vector<int> rows;
+        for (vtkIdType index = 1; index < Chart->GetNumberOfPlots(); ++index)
+        {
+            vtkPlotPoints* plot = GetPlot(index);
+            const auto count = static_cast<int>(plot->GetInput()->GetNumberOfRows());
+            rows.push_back(plot->GetMarkerStyle() == vtkPlotPoints::CROSS ? -count : count);
+        }
+        return rows;
+    }
+    struct Values
+    {
+        std::vector<double> X;
+        std::vector<double> Y;
+        std::vector<uint8_t> Valid;
+        std::array<double, 4> Box;
+    };
+    Values Read() const
+    {
+        Values values;
+        int32_t count = -1;
+        EXPECT_EQ(Tarvex_Element2D_ProfileNonUniform_GetPointCount(Id, Element, &count), STATUS_OK);
+        values.X.resize(static_cast<size_t>(count));
+        values.Y.resize(values.X.size());
+        values.Valid.resize(values.X.size());
+        EXPECT_EQ(Tarvex_Element2D_ProfileNonUniform_GetValue(Id, Element, values.X.data(),
+                                                              values.Y.data(), values.Valid.data()),
+                  STATUS_OK);
+        Do(
+            [&](CWindow2D& view)
+            {
+                auto& [xmin, xmax, ymin, ymax] = values.Box;
+                view.FindElement(Element)->GetBounds(&xmin, &xmax, &ymin, &ymax);
+            });
+        return values;
+    }
+    void Render() const
+    {
+        Do([](CWindow2D& view) { view.GetRenderWindow()->Render(); });
+    }
+    Picture Look() const
+    {
+        Picture picture;
+        TarvexExt_Window2D_CopyImage(Id, nullptr, 0, &picture.Width, &picture.Height);
+        const int32_t size = 3 * picture.Width * picture.Height;
+        picture.Pixels.resize(static_cast<size_t>(size));
+        EXPECT_EQ(TarvexExt_Window2D_CopyImage(Id, picture.Pixels.data(), size, &picture.Width,
+                                               &picture.Height),
+                  STATUS_OK);
+        return picture;
+    }
+    static bool IsRed(const Picture::Color& color) { return color == Picture::Color{255, 0, 0}; }
+
+    TestHost Host{400, 300};
+    int32_t Id = TARVEX_NONE;
+    int32_t Element = TARVEX_NONE;
+    vtkChartHistogram2D* Chart = nullptr;
+};
+} // namespace
+
+TEST_F(Profiles2D, HaveAPlotForEachRunOfValidSamples)
+{
+    const std::pair<Heights, std::vector<int>> cases[] = {
+        {{1, 2, Gap, 4, Gap, 6, 7}, {2, -1, 2}},
+        {{Gap, 2, 3, Gap}, {2}},
+        {{1, -32767, 3}, {3}},
+        {{Gap, Gap}, {}},
+        {{1, Gap, 3, Gap, 5}, {-1, -1, -1}},
+        {{1, 2}, {2}},
+    };
+    AddKor({1, 2, 3});
+    for (const auto& [z, rows] : cases)
+    {
+        EXPECT_EQ(SetKor(z), STATUS_OK);
+        EXPECT_EQ(Rows(), rows);
+        EXPECT_EQ(Read().X.size(), z.size());
+    }
+}
+
+TEST_F(Profiles2D, GoOnFromTheirLastSample)
+{
+    const std::tuple<Heights, std::vector<int>> cases[] = {
+        {{4}, {2, 2}}, {{Gap}, {2, -1}}, {{Gap, 5}, {2, -1, -1}}, {{4, 5, Gap, 7, 8}, {2, 3, 2}}};
+    for (const auto& [z, rows] : cases)
+    {
+        AddKor({1, 2, Gap, 3});
+        EXPECT_EQ(Attach(z), STATUS_OK);
+        EXPECT_EQ(Rows(), rows);
+        EXPECT_EQ(Tarvex_Element2D_RemoveAll(Id), STATUS_OK);
+    }
+    AddKor({1, Gap});
+    EXPECT_EQ(Attach({-5}), STATUS_OK);
+    EXPECT_EQ(Rows(), (std::vector<int>{-1, -1}));
+    const Values values = Read();
+    EXPECT_THAT(values.X, ElementsAre(0, 1, 100));
+    EXPECT_THAT(values.Y, ElementsAre(1, 0, -5));
+    EXPECT_THAT(values.Valid, ElementsAre(1, 0, 1));
+    EXPECT_THAT(values.Box, ElementsAre(0, 100, -5, 1));
+}
+
+TEST_F(Profiles2D, KeepDoublesAsGivenAndDrawOnlyWhatAFloatHolds)
+{
+    const double x[] = {5, 1, 2, 3, 4};
+    const double y[] = {9, NaN, 2, 1e39, -4};
+    const uint8_t valid[] = {0, 1, 2, 1, 1};
+    const auto add = [&](const uint8_t* bytes, int32_t count, const char* name)
+    {
+        return Tarvex_Element2D_Add_ProfileNonUniform_GeneralData(Id, x, y, bytes, count, &Element,
+                                                                  name);
+    };
+    ASSERT_EQ(add(valid, 5, "X Axis"), STATUS_OK);
+    EXPECT_EQ(Rows(), std::vector<int>{-4});
+    Values values = Read();
+    EXPECT_THAT(values.X, ElementsAre(0, 1, 2, 3, 4)); // the first is not valid
+    EXPECT_THAT(values.Y, ElementsAre(0, testing::NanSensitiveDoubleEq(NaN), 2, 1e39, -4));
+    EXPECT_THAT(values.Valid, ElementsAre(0, 1, 1, 1, 1));
+    EXPECT_THAT(values.Box, ElementsAre(2, 4, -4, 1e39));
+
+    EXPECT_EQ(
+        Tarvex_Element2D_ProfileNonUniform_AttachValues_GeneralData(Id, Element, 1, x, y, valid),
+        STATUS_OK);
+    EXPECT_EQ(Read().X.back(), 5); // not the first of all
+    EXPECT_EQ(add(nullptr, 1, std::string(256, 'n').c_str()), STATUS_OK);
+    EXPECT_STREQ(GetPlot(2)->GetInput()->GetColumnName(1), "Non-uniform spaced profile 1");
+    EXPECT_EQ(add(nullptr, 1, std::string(255, 'n').c_str()), STATUS_OK);
+    EXPECT_EQ(GetPlot(3)->GetInput()->GetColumnName(1), std::string(255, 'n'));
+}
+
+TEST_F(Profiles2D, AnswerWrongArgumentsInTheirOrderAndChangeNothing)
+{
+    const double x[] = {1, 2};
+    const int16_t z[] = {1, 2};
+    const int16_t gaps[] = {Gap, Gap};
+    const int32_t most = std::numeric_limits<int32_t>::max();
+    int32_t other = 77;
+    EXPECT_EQ(Tarvex_Element2D_Add_ProfileUniform(Id, gaps, 2, 1, 1, 0, 0, &other),
+              STATUS_NOT_READY);
+    EXPECT_EQ(other, TARVEX_NONE);
+    AddKor({1, 2, 3});
+    const int32_t id = Id;
+    const int32_t e = Element;
+    const std::pair<int32_t, int32_t> answers[] = {
+        {Tarvex_Element2D_Add_ProfileNonUniform_GeneralData(id, x, x, nullptr, 0, &other, nullptr),
+         STATUS_TOO_SMALL},
+        {Tarvex_Element2D_Add_ProfileNonUniform_KorData(id, nullptr, z, 1, NaN, 1, 0, 0, &other,
+                                                        nullptr),
+         STATUS_NULL_ARGUMENT},
+        {Tarvex_Element2D_Add_ProfileNonUniform_KorData(id, z, z, 1, NaN, 1, 0, 0, &other, nullptr),
+         STATUS_TOO_SMALL},
+        {Tarvex_Element2D_Add_ProfileUniform(id, z, 2, 1, 1, NaN, 0, &other), STATUS_NOT_FINITE},
+        {Tarvex_Element2D_ProfileNonUniform_SetValue_GeneralData(id, e, 1, x, x, nullptr),
+         STATUS_TOO_SMALL},
+        {Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(id, e, most, z, z, 1, 1, 0, 0),
+         STATUS_OUT_OF_MEMORY},
+        {Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(id, e, most, z, z, 1, 1, 0, 0),
+         STATUS_OUT_OF_MEMORY},
+        {Tarvex_Element2D_ProfileNonUniform_AttachValues_GeneralData(id, e, 0, x, x, nullptr),
+         STATUS_TOO_SMALL},
+        {Tarvex_Element2D_ProfileNonUniform_SetMarkerSize(id, e, 0.0005), STATUS_TOO_SMALL},
+        {Tarvex_Element2D_ProfileUniform_SetValue(id, e, 2, z, 1, 1, 0, 0), STATUS_WRONG_TYPE},
+    };
+    for (const auto& [answer, expected] : answers)
+    {
+        EXPECT_EQ(answer, expected) << &answer - &answers[0].first;
+    }
+    EXPECT_EQ(Rows(), std::vector<int>{3});
+    EXPECT_THAT(Read().Y, ElementsAre(1, 2, 3));
+    ASSERT_EQ(Tarvex_Element2D_Add_ProfileUniform(id, z, 2, 1, 1, 0, 0, &other), STATUS_OK);
+    EXPECT_EQ(Tarvex_Element2D_ProfileUniform_SetValue(id, other, 2, gaps, 1, 1, 0, 0), STATUS_OK);
+    EXPECT_EQ(Tarvex_Element2D_ProfileUniform_SetValue(id, other, 2, z, 1, 1, 0, 0),
+              STATUS_NOT_READY);
+}
+
+TEST_F(Profiles2D, ChangedComeToLieOnTopAndKeepTheirPlotsThere)
+{
+    AddKor({1, Gap, 3});
+    vtkPlot* const first = GetPlot(1);
+    const int32_t lower = Element;
+    AddKor({4, 5, 6, 7});
+    EXPECT_EQ(SetKor({1, 2, 3, 4, 5}), STATUS_OK);
+    EXPECT_EQ(Rows(), (std::vector<int>{-1, -1, 5}));
+    Element = lower;
+    EXPECT_EQ(SetKor({2, 3, Gap, 5}), STATUS_OK);
+    EXPECT_EQ(Rows(), (std::vector<int>{5, 2, -1}));
+    EXPECT_EQ(GetPlot(2), first);
+    EXPECT_EQ(SetKor({2, 3}), STATUS_OK);
+    EXPECT_EQ(Rows(), (std::vector<int>{5, 2}));
+}
+
+TEST_F(Profiles2D, LookAsStockPlotsDo)
+{
+    // A wave with noise of so many counts, flat to wild; X steps of one count and of none.
+    for (const int noise : {0, 20, 200, 2000, 20000})
+    {
+        for (const double offset : {0.0, 1e5})
+        {
+            SCOPED_TRACE(std::to_string(noise) + " from " + std::to_string(offset));
+            const size_t count = 30000;
+            Heights x(count);
+            Heights z(count);
+            unsigned random = 1;
+            for (size_t sample = 0; sample < count; ++sample)
+            {
+                random = random * 1664525U + 1013904223U;
+                x[sample] = static_cast<int16_t>(sample / 2 * 2);
+                z[sample] = static_cast<int16_t>(
+                    std::sin(static_cast<double>(sample) * 4e-4) * 9000.0 +
+                    noise * (static_cast<double>(random >> 16U) / 65536.0 - 0.5));
+            }
+            std::fill_n(z.begin() + 20000, 500, Gap);
+            EXPECT_EQ(Tarvex_Element2D_Add_ProfileNonUniform_KorData(Id, x.data(), z.data(), count,
+                                                                     0.01, 0.001, offset, 0.0,
+                                                                     &Element, nullptr),
+                      STATUS_OK);
+            const Picture ours = Look();
+            EXPECT_GT(ours.Count(IsRed), 300);
+            EXPECT_EQ(Tarvex_Element2D_Show(Id, Element, 0), STATUS_OK);
+            Render();
+            EXPECT_EQ(Look().Count(IsRed), 0);
+            {
+                LiteralChartProfile stock(Chart);
+                stock.Replace(x, z, 0.01, 0.001, offset);
+                Render();
+                Render();
+                EXPECT_EQ(Look().CountDifferences(ours), 0);
+            }
+            EXPECT_EQ(Tarvex_Element2D_RemoveAll(Id), STATUS_OK);
+        }
+    }
+}
+
+TEST_F(Profiles2D, AreFoundUnderTheMouseWhereverTheAxesBegin)
+{
+    for (const double offset : {0.0, 1000.0})
+    {
+        const double x[] = {offset, offset + 1, offset + 2, offset + 1.5};
+        const double y[] = {1, 2, NaN, 4};
+        // In order, with a gap, and back and forth.
+        for (const int32_t count : {2, 3, 4})
+        {
+            ASSERT_EQ(Tarvex_Element2D_Add_ProfileNonUniform_GeneralData(Id, x, y, nullptr, count,
+                                                                         &Element, nullptr),
+                      STATUS_OK);
+            const vtkRectd shift = GetPlot(1)->GetShiftScale();
+            const int32_t last = count == 4 ? 3 : 1;
+            const vtkVector2f mouse(static_cast<float>(x[last] + 0.05 + shift[0]),
+                                    static_cast<float>(y[last] + shift[1]));
+            vtkVector2f found;
+            vtkIdType segment = -1;
+            vtkPlot* plot = GetPlot(1);
+            EXPECT_EQ(plot->GetNearestPoint(mouse, vtkVector2f(0.1F, 0.1F), &found, &segment),
+                      last);
+            EXPECT_FLOAT_EQ(found.GetX(), static_cast<float>(x[last]));
+            EXPECT_EQ(plot->GetNearestPoint(mouse, vtkVector2f(0.01F, 0.1F), &found, &segment), -1);
+            EXPECT_EQ(Tarvex_Element2D_RemoveAll(Id), STATUS_OK);
+        }
+    }
+}
+
+TEST_F(Profiles2D, StayAsTheyWereWhenMemoryRunsOut)
+{
+    AddKor({1, 2, Gap, 4, 5});
+    const Picture before = Look();
+    const Heights more = {1, Gap, 3, Gap, 5, Gap, 7, 8};
+    for (const bool attach : {false, true})
+    {
+        int place = 0;
+        do
+        {
+            EXPECT_EQ(Rows(), (std::vector<int>{2, 2})) << place;
+            EXPECT_THAT(Read().Y, ElementsAre(1, 2, 0, 4, 5));
+            Render();
+            EXPECT_EQ(Look().CountDifferences(before), 0);
+            const Heights x = CountX(more.size());
+            FailAllocation(++place);
+            const auto call = attach ? Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData
+                                     : Tarvex_Element2D_ProfileNonUniform_SetValue_KorData;
+            call(Id, Element, 8, x.data(), more.data(), 1, 1, 0, 0);
+        } while (StopFailing());
+        EXPECT_GT(place, 4);
+        EXPECT_EQ(SetKor({1, 2, Gap, 4, 5}), STATUS_OK);
+    }
+}
