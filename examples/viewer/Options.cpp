@@ -23,10 +23,13 @@ const char* const KeyHelp =
 
 namespace
 {
+constexpr const char* PlainSize = "1100x800";
+constexpr const char* SizeWithCharts = "1400x800";
+
 // What has to be read more closely than CLI11 does.
 struct Words
 {
-    std::string Size = "1100x800";
+    std::optional<std::string> Size;
     std::string Mode = "points";
     std::string Scene = "surface";
     std::string Exaggeration = "auto";
@@ -117,7 +120,8 @@ void DeclareCharts(CLI::App& app, Options& options, Words& words)
 
 void DeclareOutput(CLI::App& app, Options& options, Words& words)
 {
-    app.add_option("--size", words.Size, "size of the window")->capture_default_str();
+    app.add_option("--size", words.Size, "size of the window")
+        ->default_str(std::string(PlainSize) + ", with charts " + SizeWithCharts);
     app.add_option("--screenshot", options.Screenshot, "write the picture to this PNG and end");
     app.add_flag("--print", options.Print, "print numbers about the data and the time it took");
     app.footer(KeyHelp);
@@ -209,12 +213,13 @@ void RequireTogether(const Options& options)
 
 void Interpret(const Words& words, Options& options)
 {
+    const std::string size = words.Size.value_or(options.Charts ? SizeWithCharts : PlainSize);
     char rest = '\0';
-    if (std::sscanf(words.Size.c_str(), "%5dx%5d%c", &options.Width, &options.Height, &rest) != 2 ||
+    if (std::sscanf(size.c_str(), "%5dx%5d%c", &options.Width, &options.Height, &rest) != 2 ||
         options.Width < 16 || options.Height < 16 || options.Width > 16384 ||
         options.Height > 16384)
     {
-        throw std::runtime_error("--size: " + words.Size + " is no size such as 1100x800");
+        throw std::runtime_error("--size: " + size + " is no size such as " + PlainSize);
     }
     const auto missing = ToNumber(words.MissingCount);
     if (words.MissingCount != "none" &&

@@ -58,9 +58,9 @@ SurfaceElement::SurfaceElement(int32_t view, const HeightMap& map, const Surface
         // A camera often uses a small part of 0 to 255, which would be one grey.
         const auto [darkest, brightest] =
             std::minmax_element(map.Intensities.begin(), map.Intensities.end());
-        Check(Calls.SetRange(View, Element, 0, 0.0, std::min<int32_t>(*darkest, 254),
-                             std::max<int32_t>(*brightest, *darkest + 1)),
-              "Tarvex_Element_ZScalingPalette");
+        Darkest = std::min<int32_t>(*darkest, 254);
+        Brightest = std::max<int32_t>(*brightest, *darkest + 1);
+        UseRange();
     }
 }
 
@@ -97,12 +97,16 @@ void SurfaceElement::Replace(const HeightMap& map)
                   intensities, map.Columns, map.Rows, map.XScale, map.YScale, zScale, map.XOffset,
                   map.YOffset, zOffset),
               "Tarvex_Element_SurfaceNonUniform_SetValue");
-        return;
     }
-    Check(Tarvex_Element_SurfaceUniform_SetValue(View, Element, map.Samples.data(), intensities,
-                                                 map.Columns, map.Rows, map.XScale, map.YScale,
-                                                 zScale, map.XOffset, map.YOffset, zOffset),
-          "Tarvex_Element_SurfaceUniform_SetValue");
+    else
+    {
+        Check(Tarvex_Element_SurfaceUniform_SetValue(View, Element, map.Samples.data(), intensities,
+                                                     map.Columns, map.Rows, map.XScale, map.YScale,
+                                                     zScale, map.XOffset, map.YOffset, zOffset),
+              "Tarvex_Element_SurfaceUniform_SetValue");
+    }
+    // New samples come with ranges that hold all of them.
+    UseRange();
 }
 
 SurfaceColors SurfaceElement::Colors() const
@@ -115,6 +119,12 @@ SurfaceColors SurfaceElement::Colors() const
 
 void SurfaceElement::UseRange()
 {
+    if (IntensityShown)
+    {
+        Check(Calls.SetRange(View, Element, 0, 0.0, Darkest, Brightest),
+              "Tarvex_Element_ZScalingPalette");
+        return;
+    }
     Check(Calls.SetRange(View, Element, Range.Fixed ? 0 : 1, Range.ClipPercent,
                          Range.Min * Exaggeration, Range.Max * Exaggeration),
           "Tarvex_Element_ZScalingPalette");
@@ -161,9 +171,6 @@ void SurfaceElement::ShowIntensity(bool show)
 {
     Check(Calls.ShowIntensity(View, Element, show ? 1 : 0), "Tarvex_Element_ShowIntensity");
     IntensityShown = show;
-    if (!show)
-    {
-        // The range that was set for the intensities has ended the automatic one of the heights.
-        UseRange();
-    }
+    // The library keeps one range for both.
+    UseRange();
 }

@@ -63,4 +63,6 @@ private:
     int32_t Element = -1;
     bool HasIntensities;
     bool IntensityShown = false;
+    int32_t Darkest = 0; // of the intensities at first
+    int32_t Brightest = 255;
 };

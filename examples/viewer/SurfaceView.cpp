@@ -27,6 +27,7 @@ constexpr double FlatRelief = 0.35; // height as a share of the longer side
 
 // Share of the scene's size by which it moves to the left to make room for the bar.
 constexpr double RoomForBar = 0.09;
+constexpr double BesideBar = 0.85; // share of the view's width
 
 const ActiveElementCalls SceneCalls = {
     Tarvex_Element_GetCount,
@@ -223,7 +224,8 @@ void SurfaceView::ComeNearer(double most)
 {
     const bool hasBar = Around.Bar && ShownSurface;
     // The library lets the height of the view decide, whatever its width.
-    const double narrow = std::min(1.0, static_cast<double>(Placed.Width) / Placed.Height);
+    const double width = (hasBar ? BesideBar : 1.0) * Placed.Width;
+    const double narrow = std::min(1.0, width / Placed.Height);
     Zoom(narrow * std::min(most, hasBar ? NearerWithBar : Around.Frame ? NearerWithFrame : Nearer));
     if (!hasBar)
     {

@@ -171,6 +171,9 @@ void CElement_2D::BringToTop()
         RemovePlot(plot);
         // The chart leaves its observer behind, and adds another one.
         plot->RemoveObservers(vtkCommand::ModifiedEvent);
+        // A plot that has the chart's axes counts as drawn by it, and would not be drawn again.
+        plot->SetXAxis(nullptr);
+        plot->SetYAxis(nullptr);
         Chart->AddPlot(plot);
     }
 }
