@@ -171,6 +171,6 @@ void SurfaceElement::ShowIntensity(bool show)
 {
     Check(Calls.ShowIntensity(View, Element, show ? 1 : 0), "Tarvex_Element_ShowIntensity");
     IntensityShown = show;
-    // The library keeps one range for both.
+    // A range that is set for the one ends the automatic one of the other.
     UseRange();
 }
