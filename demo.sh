@@ -57,7 +57,7 @@ save_pictures() { # [FILE [OPTION..]]
   save weld-beads "$data/clad_nonuniform_x.i16" --trim 0.05 --profiles 12 "${furniture[@]}"
   save stylus-profile "$data/stylus_profile.i16" "${furniture[@]}"
   save charts-dark "${laser_scan[@]}" --charts --line 800 "${furniture[@]}"
-  save charts-light "$data/wli_height.i16" --charts --layout light --range 1% "${furniture[@]}"
+  save charts-light "$data/N42E001.hgt" --charts --layout light --palette 3 "${furniture[@]}"
   save charts-intensity "$data/wli_height.i16" --intensity "$data/wli_intensity8.pgm" --charts \
     "${furniture[@]}"
   # After some pictures of the live mode: the plate has moved under the sensor.

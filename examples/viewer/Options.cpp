@@ -24,7 +24,7 @@ const char* const KeyHelp =
 namespace
 {
 constexpr const char* PlainSize = "1100x800";
-constexpr const char* SizeWithCharts = "1400x800";
+constexpr const char* SizeWithCharts = "1280x800";
 
 // What has to be read more closely than CLI11 does.
 struct Words
@@ -113,7 +113,7 @@ void DeclareCharts(CLI::App& app, Options& options, Words& words)
     app.add_option("--live", words.Live,
                    "move the measurement on by one row for each picture, as an object on a belt "
                    "under the sensor, and print the pictures per second; ends after SECONDS if "
-                   "they are given. Goes behind the files")
+                   "they are given")
         ->expected(0, 1)
         ->type_name("[SECONDS]");
 }
@@ -183,8 +183,7 @@ std::optional<LiveMode> ToLiveMode(const std::optional<std::string>& text)
         live.Seconds = ToNumber(*text);
         if (!live.Seconds || *live.Seconds <= 0.0)
         {
-            throw std::runtime_error("--live: " + *text +
-                                     " is no number of seconds (files go before this option)");
+            throw std::runtime_error("--live: " + *text + " is no number of seconds above 0");
         }
     }
     return live;
