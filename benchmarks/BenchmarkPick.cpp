@@ -140,7 +140,7 @@ void Agreement(benchmark::State& state)
             {
                 const vtkNew<vtkPropPicker> stock;
                 CScenePicker picker;
-                for (int step = 0; step < 1000; ++step)
+                for (int step = 0; step < 400; ++step)
                 {
                     const int x = step * 97 % width;
                     const int y = step * 61 % height;

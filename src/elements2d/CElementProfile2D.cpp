@@ -220,7 +220,7 @@ void CElementProfile2D::ArrangePlots(NewPlots added, size_t count)
         RemovePlot(Plots.back());
     }
     Tables.resize(Plots.size());
-    BringToTop();
+    RaisePlots();
     for (CProfilePlot* plot : added.Plots)
     {
         Chart->AddPlot(plot);

@@ -17,6 +17,8 @@ class CProfilePlot;
 class CElementProfile2D : public CElement_2D
 {
 public:
+    static constexpr bool EndsDrawing = true;
+
     explicit CElementProfile2D(int32_t elementType);
     ~CElementProfile2D() override;
 

@@ -159,7 +159,7 @@ bool CElement_2D::AreOnTop(const std::vector<vtkPlotPoints*>& plots) const
                        [&](vtkPlotPoints* plot) { return Chart->GetPlot(index++) == plot; });
 }
 
-void CElement_2D::BringToTop()
+void CElement_2D::RaisePlots()
 {
     if (AreOnTop(Plots))
     {
@@ -169,7 +169,7 @@ void CElement_2D::BringToTop()
     {
         const vtkSmartPointer<vtkPlotPoints> kept = plot;
         RemovePlot(plot);
-        // The chart leaves its observer behind, and adds another one.
+        // Each time that a chart takes a plot it begins to listen to it.
         plot->RemoveObservers(vtkCommand::ModifiedEvent);
         // A plot that has the chart's axes counts as drawn by it, and would not be drawn again.
         plot->SetXAxis(nullptr);

@@ -65,12 +65,12 @@ protected:
     // True if the plots are the last ones of the chart, in this order: a changed element is drawn
     // on top of all others, and plots that are there already can stay.
     bool AreOnTop(const std::vector<vtkPlotPoints*>& plots) const;
-    // All plots on top of all others, in their order. Makes nothing anew.
-    void BringToTop();
-    bool IsVisible() const { return Valid && Shown; }
+    // Draws all plots on top of those of other elements, as if they were new.
+    void RaisePlots();
     // Colour, width and visibility, on all plots.
     virtual void ApplyLook();
     void ApplyLook(vtkPlot* plot) const;
+    bool IsVisible() const { return Valid && Shown; }
     // False: nothing to be seen has been built, and most calls answer STATUS_NOT_READY.
     virtual bool IsReady() const { return Chart && !Plots.empty(); }
     virtual int32_t CheckComplete() const;

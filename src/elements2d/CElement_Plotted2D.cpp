@@ -41,7 +41,7 @@ void CElement_Plotted2D::Redraw()
 {
     FillTables();
     ApplyLook();
-    BringToTop();
+    RaisePlots();
 }
 
 void CElement_Plotted2D::FitBounds(std::span<const ChartPoint> points)

@@ -52,17 +52,22 @@ struct Grid
         // A scene of n pixels has its first and last half a pixel outside the window.
         const double first = view[direction];
         const double count = view[direction + 2];
+        const double range = axis->GetMaximum() - axis->GetMinimum();
+        // One pixel, or a range that is lost in huge numbers: every run is empty.
+        if (!(count > 1.0 && range > 0.0))
+        {
+            return;
+        }
         const double stretch = count / (count - 1.0);
-        const double pixelsPerUnit =
-            axisPixels / (axis->GetMaximum() - axis->GetMinimum()) * stretch;
+        const double pixelsPerUnit = axisPixels / range * stretch;
         PixelsPerTexel = spacing * pixelsPerUnit;
         Start = first + (axisFirst - 0.5) * stretch + (origin - axis->GetMinimum()) * pixelsPerUnit;
     }
 
     double ClipFirst;
     double ClipEnd;
-    double Start; // of texel 0
-    double PixelsPerTexel;
+    double Start = 0.0; // of texel 0
+    double PixelsPerTexel = 0.0;
 };
 
 // The pixels with their middle on the texels from `from` on.

@@ -30,11 +30,11 @@ public:
         }
     };
     Columns Resize(int32_t rows);
-    // Room for so many rows: a Resize up to there needs no memory.
-    void Reserve(int32_t rows);
     // Takes rows that the caller keeps, without copying them; Filled must follow when they are
     // other ones.
     void View(const Columns& columns, int32_t rows);
+    // Room for so many rows: a Resize up to there needs no memory.
+    void Reserve(int32_t rows);
     // Plots on this table take the new values with the next render.
     void Filled() { Table->Modified(); }
 

@@ -12,7 +12,6 @@
 #include <vtkTransform2D.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 
@@ -20,103 +19,11 @@ vtkStandardNewMacro(CProfilePlot);
 
 namespace
 {
-// From places of a plot to pixels; both scales are positive.
-struct PixelScale
+PixelScale GetPixelScale(vtkContext2D* painter)
 {
-    explicit PixelScale(vtkContext2D* painter)
-    {
-        vtkMatrix3x3* matrix = painter->GetTransform()->GetMatrix();
-        X = matrix->GetElement(0, 0);
-        Y = matrix->GetElement(1, 1);
-        Left = matrix->GetElement(0, 2);
-    }
-    double ToPixel(float x) const { return x * X + Left; }
-    double FromPixel(double column) const { return (column - Left) / X; }
-
-    double X;
-    double Y;
-    double Left;
-};
-
-// The samples within one pixel column. A pixel belongs to a line when the line touches the diamond
-// between the middles of its sides. Inside a column these pixels follow from few samples: the ends,
-// the lowest and highest, those that reach farthest down and up into the diamonds, and the pair
-// about the middle of the column. A line through them covers the same pixels.
-class Column
-{
-public:
-    template <class Place>
-    void Start(const Place& place, vtkIdType index, double middle, double steepness)
-    {
-        Middle = middle;
-        Steepness = steepness;
-        First = Last = Lowest = Highest = Deepest = Tallest = index;
-        BeforeMiddle = AfterMiddle = index;
-        LowestY = HighestY = place.Y;
-        const double away = std::abs(place.X - Middle) * Steepness;
-        Depth = place.Y + away;
-        Height = place.Y - away;
-        Passed = place.X > Middle;
-    }
-    template <class Place>
-    void Add(const Place& place, vtkIdType index)
-    {
-        Last = index;
-        if (place.Y < LowestY)
-        {
-            LowestY = place.Y;
-            Lowest = index;
-        }
-        if (place.Y > HighestY)
-        {
-            HighestY = place.Y;
-            Highest = index;
-        }
-        const double away = std::abs(place.X - Middle) * Steepness;
-        if (place.Y + away < Depth)
-        {
-            Depth = place.Y + away;
-            Deepest = index;
-        }
-        if (place.Y - away > Height)
-        {
-            Height = place.Y - away;
-            Tallest = index;
-        }
-        if (!Passed)
-        {
-            Passed = place.X > Middle;
-            AfterMiddle = index;
-            BeforeMiddle = Passed ? index - 1 : index;
-        }
-    }
-    // In the order of the samples, each once.
-    template <class Action>
-    void ForEach(Action&& action)
-    {
-        std::array<vtkIdType, 8> kept = {First,   Last,    Lowest,       Highest,
-                                         Deepest, Tallest, BeforeMiddle, AfterMiddle};
-        std::sort(kept.begin(), kept.end());
-        std::for_each(kept.begin(), std::unique(kept.begin(), kept.end()), action);
-    }
-
-private:
-    double Middle = 0.0;    // X of the column, in the units of the plot
-    double Steepness = 0.0; // height of a rise by one pixel a pixel, for one unit of X
-    vtkIdType First = 0;
-    vtkIdType Last = 0;
-    vtkIdType Lowest = 0;
-    vtkIdType Highest = 0;
-    vtkIdType Deepest = 0;
-    vtkIdType Tallest = 0;
-    vtkIdType BeforeMiddle = 0;
-    vtkIdType AfterMiddle = 0;
-    float LowestY = 0.0F;
-    float HighestY = 0.0F;
-    double Depth = 0.0;
-    double Height = 0.0;
-    bool Passed = false;
-};
+    const vtkMatrix3x3* matrix = painter->GetTransform()->GetMatrix();
+    return {matrix->GetElement(0, 0), matrix->GetElement(1, 1), matrix->GetElement(0, 2)};
+}
 } // namespace
 
 bool CProfilePlot::IsStale() const
@@ -140,12 +47,13 @@ void CProfilePlot::CopyPoints(const vtkTable& table)
     auto* x = vtkFloatArray::FastDownCast(columns.GetColumn(0));
     auto* y = vtkFloatArray::FastDownCast(columns.GetColumn(1));
     const vtkIdType count = x->GetNumberOfValues();
+    // The base class holds and deletes Points and BadPoints by bare pointers.
     if (!Points)
     {
         Points = vtkPoints2D::New();
     }
     Points->SetNumberOfPoints(count);
-    auto* places = static_cast<Place*>(Points->GetVoidPointer(0));
+    auto* places = static_cast<PlotPlace*>(Points->GetVoidPointer(0));
     const float* fromX = x->GetPointer(0);
     const float* fromY = y->GetPointer(0);
     const vtkRectd shift = GetShiftScale();
@@ -187,7 +95,7 @@ bool CProfilePlot::Paint(vtkContext2D* painter)
         return false;
     }
     painter->ApplyPen(Pen);
-    auto* places = static_cast<Place*>(Points->GetVoidPointer(0));
+    auto* places = static_cast<PlotPlace*>(Points->GetVoidPointer(0));
     const vtkIdType gaps = BadPoints ? BadPoints->GetNumberOfValues() : 0;
     vtkIdType start = 0;
     for (vtkIdType gap = 0; gap <= gaps; ++gap)
@@ -203,9 +111,9 @@ bool CProfilePlot::Paint(vtkContext2D* painter)
     return vtkPlotPoints::Paint(painter);
 }
 
-void CProfilePlot::PaintLine(vtkContext2D* painter, Place* places, vtkIdType count)
+void CProfilePlot::PaintLine(vtkContext2D* painter, PlotPlace* places, vtkIdType count)
 {
-    const auto draw = [painter](Place* line, vtkIdType length)
+    const auto draw = [painter](PlotPlace* line, vtkIdType length)
     { painter->DrawPoly(&line->X, static_cast<int>(length)); };
     // Wide lines are rectangles, one for each pair of samples: their corners depend on each.
     constexpr float thin = 1.0F;
@@ -215,13 +123,14 @@ void CProfilePlot::PaintLine(vtkContext2D* painter, Place* places, vtkIdType cou
         draw(places, count);
         return;
     }
-    const PixelScale scale(painter);
+    const PixelScale scale = GetPixelScale(painter);
     // What is in sight, and one more sample on both sides.
-    const int width = painter->GetDevice()->GetWidth();
-    const auto isLeftOf = [](const Place& place, double x) { return place.X < x; };
-    const Place* begin = std::lower_bound(places, places + count, scale.FromPixel(-1.0), isLeftOf);
-    const Place* end = std::lower_bound(begin, static_cast<const Place*>(places + count),
-                                        scale.FromPixel(width + 1.0), isLeftOf);
+    const int width = painter->GetDevice()->GetViewportSize()[0];
+    const auto isLeftOf = [](const PlotPlace& place, double x) { return place.X < x; };
+    const PlotPlace* begin =
+        std::lower_bound(places, places + count, scale.FromPixel(-1.0), isLeftOf);
+    const PlotPlace* end = std::lower_bound(begin, static_cast<const PlotPlace*>(places + count),
+                                            scale.FromPixel(width + 1.0), isLeftOf);
     const vtkIdType first = std::max<vtkIdType>(begin - places - 1, 0);
     const vtkIdType last = std::min<vtkIdType>(end - places, count - 1);
     const vtkIdType seen = last - first + 1;
@@ -237,21 +146,7 @@ void CProfilePlot::PaintLine(vtkContext2D* painter, Place* places, vtkIdType cou
         draw(places + first, seen);
         return;
     }
-    Thinned.clear();
-    const auto keep = [this, places](vtkIdType index) { Thinned.push_back(places[index]); };
-    const double steepness = scale.X / scale.Y;
-    for (vtkIdType index = first; index <= last;)
-    {
-        const double left = std::floor(scale.ToPixel(places[index].X));
-        const double right = scale.FromPixel(left + 1.0);
-        Column column;
-        column.Start(places[index], index, scale.FromPixel(left + 0.5), steepness);
-        for (++index; index <= last && places[index].X < right; ++index)
-        {
-            column.Add(places[index], index);
-        }
-        column.ForEach(keep);
-    }
+    ThinLine({places + first, places + last + 1}, scale, Thinned);
     draw(Thinned.data(), static_cast<vtkIdType>(Thinned.size()));
 }
 
@@ -268,20 +163,20 @@ vtkIdType CProfilePlot::GetNearestPoint(const vtkVector2f& point, const vtkVecto
     {
         return -1;
     }
-    const auto* places = static_cast<const Place*>(Points->GetVoidPointer(0));
-    const Place* end = places + Points->GetNumberOfPoints();
+    const auto* places = static_cast<const PlotPlace*>(Points->GetVoidPointer(0));
+    const PlotPlace* end = places + Points->GetNumberOfPoints();
     const float right = point.GetX() + tolerance.GetX();
     const float left = point.GetX() - tolerance.GetX();
-    const Place* place = places;
+    const PlotPlace* place = places;
     if (Ordered)
     {
-        place =
-            std::lower_bound(places, end, left, [](const Place& at, float x) { return at.X < x; });
-        end =
-            std::lower_bound(place, end, right, [](const Place& at, float x) { return at.X < x; });
+        place = std::lower_bound(places, end, left,
+                                 [](const PlotPlace& at, float x) { return at.X < x; });
+        end = std::lower_bound(place, end, right,
+                               [](const PlotPlace& at, float x) { return at.X < x; });
     }
     place = std::find_if(place, end,
-                         [&](const Place& at)
+                         [&](const PlotPlace& at)
                          {
                              return at.X > left && at.X < right &&
                                     at.Y > point.GetY() - tolerance.GetY() &&

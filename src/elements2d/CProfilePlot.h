@@ -3,6 +3,7 @@
 #pragma once
 
 #include "elements2d/ChartPlots.h"
+#include "elements2d/LineThinning.h"
 
 #include <vector>
 
@@ -30,16 +31,11 @@ protected:
     ~CProfilePlot() override = default;
 
 private:
-    struct Place
-    {
-        float X;
-        float Y;
-    };
     bool IsStale() const;
     void CopyPoints(const vtkTable& table);
-    void PaintLine(vtkContext2D* painter, Place* places, vtkIdType count);
+    void PaintLine(vtkContext2D* painter, PlotPlace* places, vtkIdType count);
 
     bool Thinning = true;
-    bool Ordered = false;       // X never decreases, and there are no gaps
-    std::vector<Place> Thinned; // of the line being painted
+    bool Ordered = false;           // X never decreases, and there are no gaps
+    std::vector<PlotPlace> Thinned; // of the line being painted
 };

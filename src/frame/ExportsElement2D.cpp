@@ -1,9 +1,9 @@
 // Exports that work on any chart element, and those of profiles and images in charts.
 #include "Tarvex.h"
 
-#include "elements2d/CElement_Image2D.h"
 #include "elements2d/CElementProfileNonUniform2D.h"
 #include "elements2d/CElementProfileUniform2D.h"
+#include "elements2d/CElement_Image2D.h"
 #include "frame/CallFrame.h"
 
 int32_t Tarvex_Element2D_GetCount(int32_t windowId, int32_t* count)

@@ -5,18 +5,17 @@
 #include <vtkAxis.h>
 #include <vtkChartHistogram2D.h>
 #include <vtkContextMouseEvent.h>
-#include <vtkContextScene.h>
 #include <vtkTooltipItem.h>
 
 #include <utility>
 
 namespace
 {
-// From a pixel between the two ends of an axis. False if they are the same.
+// From a pixel between the two ends of an axis. False if the window leaves it no room.
 bool ToAxis(int pixel, int first, int last, vtkAxis* axis, double* value)
 {
     const int length = last - first;
-    if (length == 0)
+    if (length <= 0)
     {
         return false;
     }
@@ -53,10 +52,15 @@ void MyDragInteractorStyle2D::EndChartMotion()
     {
         return;
     }
-    // For the chart, whatever it was, as the end of a pan: a box that was drawn for a zoom goes.
-    vtkContextMouseEvent event;
-    ConstructMouseEvent(event, Chart->GetActionToButton(vtkChart::PAN));
-    Scene->ButtonReleaseEvent(event);
+    // To the chart, whatever it was ends as a pan does: a box for a zoom goes without a zoom.
+    if (Chart->GetActionToButton(vtkChart::PAN) == vtkContextMouseEvent::LEFT_BUTTON)
+    {
+        Superclass::OnLeftButtonUp();
+    }
+    else
+    {
+        Superclass::OnMiddleButtonUp();
+    }
     SetCursor(false);
 }
 

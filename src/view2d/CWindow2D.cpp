@@ -6,7 +6,6 @@
 #include "interaction2d/MyDrawInteractorStyle2D.h"
 
 #include <vtkAxis.h>
-#include <vtkChartHistogram2D.h>
 #include <vtkContextActor.h>
 #include <vtkContextScene.h>
 #include <vtkNew.h>

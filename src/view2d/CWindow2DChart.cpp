@@ -86,7 +86,8 @@ void CWindow2D::FitAxes(const double bounds[4], bool keepAspect)
     // The plot area as it was drawn last.
     const int width = Chart->GetPoint2()[0] - Chart->GetPoint1()[0];
     const int height = Chart->GetPoint2()[1] - Chart->GetPoint1()[1];
-    if (height <= 0)
+    // Values so far out that a double cannot hold their margins have no range to be shown in.
+    if (width <= 0 || height <= 0 || !(x.GetSpan() > 0.0) || !(y.GetSpan() > 0.0))
     {
         return;
     }

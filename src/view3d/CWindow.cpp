@@ -45,24 +45,24 @@ int32_t CWindow::Create(bool noBorders, void* parentWindow, int32_t x, int32_t y
     {
         return STATUS_ALREADY_CREATED;
     }
-    return Guarded(
-        LastError,
-        [&]() -> int32_t
-        {
-            const bool multiSamples = true; // where they cost little
-            MakeWindow(vtkSmartPointer<CSceneRenderer>::New(), noBorders, parentWindow, x, y, width,
-                       height, multiSamples);
-            DefaultStyle = vtkSmartPointer<MyDefaultInteractorStyle>::New();
-            DefaultStyle->SetWindowId(Id);
-            DefaultStyle->SetMouseFlags(MouseEnabled[0], MouseEnabled[1], MouseEnabled[2]);
-            DrawStyle = vtkSmartPointer<MyDrawMouseInteractorStyle>::New();
-            DrawStyle->SetWindowId(Id);
-            Interactor->SetInteractorStyle(DefaultStyle);
+    return Guarded(LastError,
+                   [&]() -> int32_t
+                   {
+                       const bool multiSamples = true; // where they cost little
+                       MakeWindow(vtkSmartPointer<CSceneRenderer>::New(), noBorders, parentWindow,
+                                  x, y, width, height, multiSamples);
+                       DefaultStyle = vtkSmartPointer<MyDefaultInteractorStyle>::New();
+                       DefaultStyle->SetWindowId(Id);
+                       DefaultStyle->SetMouseFlags(MouseEnabled[0], MouseEnabled[1],
+                                                   MouseEnabled[2]);
+                       DrawStyle = vtkSmartPointer<MyDrawMouseInteractorStyle>::New();
+                       DrawStyle->SetWindowId(Id);
+                       Interactor->SetInteractorStyle(DefaultStyle);
 
-            SceneTransform = vtkSmartPointer<vtkTransform>::New();
-            SceneTransform->Scale(1.0, -1.0, 1.0);
-            return STATUS_OK;
-        });
+                       SceneTransform = vtkSmartPointer<vtkTransform>::New();
+                       SceneTransform->Scale(1.0, -1.0, 1.0);
+                       return STATUS_OK;
+                   });
 }
 
 int32_t CWindow::SetBackgroundColor(uint8_t red, uint8_t green, uint8_t blue)

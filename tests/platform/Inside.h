@@ -7,22 +7,23 @@
 #include <vtkCallbackCommand.h>
 #include <vtkNew.h>
 
-template <class Action>
+template <class View = CWindow, class Action>
 void Inside(int32_t windowId, Action&& action)
 {
-    CWindowManager::Instance->Call<CWindow>(windowId,
-                                            [&](CWindow& view) -> int32_t
-                                            {
-                                                action(view);
-                                                return STATUS_OK;
-                                            });
+    CWindowManager::Instance->Call<View>(windowId,
+                                         [&](View& view) -> int32_t
+                                         {
+                                             action(view);
+                                             return STATUS_OK;
+                                         });
 }
 
-inline NativeWindow NativeOf(int32_t windowId)
+template <class View = CWindow>
+NativeWindow NativeOf(int32_t windowId)
 {
     NativeWindow native = 0;
-    Inside(
-        windowId, [&](CWindow& view)
+    Inside<View>(
+        windowId, [&](View& view)
         { native = reinterpret_cast<NativeWindow>(view.GetRenderWindow()->GetGenericWindowId()); });
     return native;
 }

@@ -8,6 +8,7 @@
 #include "support/TestView.h"
 
 #include <X11/Xlib.h>
+#include <X11/extensions/XTest.h>
 
 #include <array>
 #include <cmath>
@@ -83,15 +84,32 @@ TEST_F(Mouse, TurnsPansAndZoomsTheCamera)
     EXPECT_STREQ(MotionByDrag(2), "pan");
     EXPECT_STREQ(MotionByDrag(3), "zoom");
     EXPECT_STREQ(MotionByWheel(4), "zoom");
+    const KeyCode shift = XKeysymToKeycode(Host.Connection, XStringToKeysym("Shift_L"));
+    XTestFakeKeyEvent(Host.Connection, shift, True, CurrentTime);
+    EXPECT_STREQ(MotionByDrag(1), "pan");
+    EXPECT_STREQ(MotionByDrag(3), "zoom");
+    XTestFakeKeyEvent(Host.Connection, shift, False, CurrentTime);
 }
 
 TEST_F(Mouse, DoesOnlyWhatIsSwitchedOn)
 {
-    EXPECT_EQ(Tarvex_Window_EnableMouseInteraction(View.Id, 1, 0, 0), STATUS_OK);
-    EXPECT_STREQ(MotionByDrag(1), "turn");
-    EXPECT_STREQ(MotionByDrag(2), "none");
-    EXPECT_STREQ(MotionByDrag(3), "none");
-    EXPECT_STREQ(MotionByWheel(4), "none");
+    // Left, middle, right with wheel.
+    const char* const all[] = {"turn", "pan", "zoom"};
+    for (const uint8_t off : {1, 2, 4, 7})
+    {
+        SCOPED_TRACE(static_cast<int>(off));
+        const auto expected = [&](unsigned button)
+        { return (off >> (button - 1) & 1) != 0 ? "none" : all[button - 1]; };
+        EXPECT_EQ(Tarvex_Window_EnableMouseInteraction(View.Id, !(off & 1), !(off & 2), !(off & 4)),
+                  STATUS_OK);
+        for (const unsigned button : {1U, 2U, 3U})
+        {
+            EXPECT_STREQ(MotionByDrag(button), expected(button));
+        }
+        EXPECT_STREQ(MotionByWheel(4), expected(3));
+        EXPECT_STREQ(MotionByWheel(5), expected(3));
+    }
+    EXPECT_EQ(Tarvex_Window_EnableMouseInteraction(View.Id, 1, 1, 1), STATUS_OK);
     EXPECT_EQ(Tarvex_Window_EnableInteraction(View.Id, 0), STATUS_OK);
     EXPECT_STREQ(MotionByDrag(1), "none");
 }

@@ -50,15 +50,26 @@ std::array<double, 2> Picture::Centre(const std::function<bool(const Color&)>& m
     return count > 0 ? std::array{sum[0] / count, sum[1] / count} : std::array{-1.0, -1.0};
 }
 
-Picture TakePicture(int32_t windowId)
+namespace
+{
+Picture TakeBy(decltype(TarvexExt_Window_CopyImage) copy, int32_t windowId)
 {
     Picture picture;
-    EXPECT_EQ(TarvexExt_Window_CopyImage(windowId, nullptr, 0, &picture.Width, &picture.Height),
-              STATUS_OK);
+    EXPECT_EQ(copy(windowId, nullptr, 0, &picture.Width, &picture.Height), STATUS_OK);
     const int32_t size = 3 * picture.Width * picture.Height;
     picture.Pixels.resize(static_cast<size_t>(size));
-    EXPECT_EQ(TarvexExt_Window_CopyImage(windowId, picture.Pixels.data(), size, &picture.Width,
-                                         &picture.Height),
+    EXPECT_EQ(copy(windowId, picture.Pixels.data(), size, &picture.Width, &picture.Height),
               STATUS_OK);
     return picture;
+}
+} // namespace
+
+Picture TakePicture(int32_t windowId)
+{
+    return TakeBy(TarvexExt_Window_CopyImage, windowId);
+}
+
+Picture TakeChartPicture(int32_t windowId)
+{
+    return TakeBy(TarvexExt_Window2D_CopyImage, windowId);
 }

@@ -25,3 +25,5 @@ struct Picture
 
 // The last rendered picture of a 3D view.
 Picture TakePicture(int32_t windowId);
+// Of a chart view.
+Picture TakeChartPicture(int32_t windowId);
