@@ -27,7 +27,8 @@ constexpr double FlatRelief = 0.35; // height as a share of the longer side
 
 // Share of the scene's size by which it moves to the left to make room for the bar.
 constexpr double RoomForBar = 0.09;
-constexpr double BesideBar = 0.85; // share of the view's width
+constexpr double BesideBar = 0.85;    // share of the view's width
+constexpr double ProfileShare = 0.93; // likewise
 
 const ActiveElementCalls SceneCalls = {
     Tarvex_Element_GetCount,
@@ -224,9 +225,12 @@ void SurfaceView::ComeNearer(double most)
 {
     const bool hasBar = Around.Bar && ShownSurface;
     // The library lets the height of the view decide, whatever its width.
-    const double width = (hasBar ? BesideBar : 1.0) * Placed.Width;
-    const double narrow = std::min(1.0, width / Placed.Height);
-    Zoom(narrow * std::min(most, hasBar ? NearerWithBar : Around.Frame ? NearerWithFrame : Nearer));
+    const double aspect = (hasBar ? BesideBar : 1.0) * Placed.Width / Placed.Height;
+    const double near = std::min(most, hasBar         ? NearerWithBar
+                                       : Around.Frame ? NearerWithFrame
+                                                      : Nearer);
+    // A profile is as wide as the sphere around it, a surface is seen obliquely.
+    Zoom(ShownSurface ? near * std::min(1.0, aspect) : std::min(near, ProfileShare * aspect));
     if (!hasBar)
     {
         return;
