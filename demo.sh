@@ -56,6 +56,13 @@ save_pictures() { # [FILE [OPTION..]]
   # Without the few outliers, which would take most of the colours.
   save weld-beads "$data/clad_nonuniform_x.i16" --trim 0.05 --profiles 12 "${furniture[@]}"
   save stylus-profile "$data/stylus_profile.i16" "${furniture[@]}"
+  save charts-dark "${laser_scan[@]}" --charts --line 800 "${furniture[@]}"
+  save charts-light "$data/N42E001.hgt" --charts --layout light --palette 3 "${furniture[@]}"
+  save charts-intensity "$data/wli_height.i16" --intensity "$data/wli_intensity8.pgm" --charts \
+    "${furniture[@]}"
+  # After some pictures of the live mode: the plate has moved under the sensor.
+  save charts-live "$data/clad_nonuniform_x.i16" --trim 0.05 --charts --frame --live 2
+  save chart-elements "${laser_scan[@]}" --scene charts
   save geometry "${laser_scan_dm[@]}" --scene geometry --palette 5 "${furniture[@]}"
 }
 

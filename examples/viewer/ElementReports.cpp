@@ -4,6 +4,7 @@
 
 #include <Tarvex.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <exception>
@@ -13,55 +14,86 @@
 
 namespace
 {
-// First the point that the shape stands on, then its measures.
+using Coordinates = std::vector<double>;
+
+void PrintPoint(const std::vector<double>& coordinates)
+{
+    for (size_t i = 0; i < coordinates.size(); ++i)
+    {
+        std::printf("%s%g", i == 0 ? "(" : ", ", coordinates[i]);
+    }
+    std::printf(")");
+}
+
+// First the point that the shape stands on, of as many coordinates as the view has dimensions, then
+// its measures.
 template <class... Numbers>
-void PrintValues(const char* name, int32_t view, int32_t element,
+void PrintValues(const char* name, int32_t dimensions, int32_t view, int32_t element,
                  int32_t (*getValue)(int32_t, int32_t, Numbers*...))
 {
     std::tuple<Numbers...> values;
     Check(std::apply([&](auto&... value) { return getValue(view, element, &value...); }, values),
           name);
-    const auto print = [&](double x, double y, double z, auto... measures)
-    {
-        std::printf("%s at (%g, %g, %g):", name, x, y, z);
-        (std::printf(" %g", measures), ...);
-        std::printf("\n");
-    };
-    std::apply(print, values);
+    const auto numbers = std::apply(
+        [](auto... value) { return std::vector<double>{static_cast<double>(value)...}; }, values);
+    const auto measures = numbers.begin() + dimensions;
+    std::printf("%s at ", name);
+    PrintPoint({numbers.begin(), measures});
+    std::printf(":");
+    std::for_each(measures, numbers.end(), [](double measure) { std::printf(" %g", measure); });
+    std::printf("\n");
 }
 
-struct Vertices
+void PrintVertices(const std::vector<Coordinates>& axes)
 {
-    explicit Vertices(int32_t count)
-        : X(static_cast<size_t>(count)), Y(static_cast<size_t>(count)),
-          Z(static_cast<size_t>(count))
+    for (size_t i = 0; i < axes.front().size(); ++i)
     {
-    }
-    void Print() const
-    {
-        for (size_t i = 0; i < X.size(); ++i)
+        std::vector<double> point;
+        for (const Coordinates& axis : axes)
         {
-            std::printf("  (%g, %g, %g)\n", X[i], Y[i], Z[i]);
+            point.push_back(axis[i]);
         }
+        std::printf("  ");
+        PrintPoint(point);
+        std::printf("\n");
     }
+}
 
-    std::vector<double> X;
-    std::vector<double> Y;
-    std::vector<double> Z;
-};
+template <class GetValue>
+void PrintPolygon(int32_t dimensions, int32_t count, const GetValue& getValue)
+{
+    std::vector<Coordinates> axes(static_cast<size_t>(dimensions),
+                                  Coordinates(static_cast<size_t>(count)));
+    uint8_t closed = 0;
+    Check(getValue(axes, closed), "Polygon_GetValue");
+    std::printf("%s polygon of %d points\n", closed ? "closed" : "open", count);
+    PrintVertices(axes);
+}
 
-void PrintPolygon(int32_t view, int32_t element)
+void PrintPolygonOfView(int32_t view, int32_t element)
 {
     int32_t count = 0;
     Check(Tarvex_Element_Polygon_GetPointCount(view, element, &count),
           "Tarvex_Element_Polygon_GetPointCount");
-    Vertices points(count);
-    uint8_t closed = 0;
-    Check(Tarvex_Element_Polygon_GetValue(view, element, points.X.data(), points.Y.data(),
-                                          points.Z.data(), &closed),
-          "Tarvex_Element_Polygon_GetValue");
-    std::printf("%s polygon of %d points\n", closed ? "closed" : "open", count);
-    points.Print();
+    PrintPolygon(3, count,
+                 [&](std::vector<Coordinates>& axes, uint8_t& closed)
+                 {
+                     return Tarvex_Element_Polygon_GetValue(
+                         view, element, axes[0].data(), axes[1].data(), axes[2].data(), &closed);
+                 });
+}
+
+void PrintPolygonOfChart(int32_t chart, int32_t element)
+{
+    int32_t count = 0;
+    Check(Tarvex_Element2D_Polygon_GetPointCount(chart, element, &count),
+          "Tarvex_Element2D_Polygon_GetPointCount");
+    PrintPolygon(2, count,
+                 [&](std::vector<Coordinates>& axes, uint8_t& closed)
+                 {
+                     return Tarvex_Element2D_Polygon_GetValue(chart, element, axes[0].data(),
+                                                              axes[1].data(), &closed);
+                 });
 }
 
 void PrintPolyhedron(int32_t view, int32_t element)
@@ -69,16 +101,16 @@ void PrintPolyhedron(int32_t view, int32_t element)
     int32_t count = 0;
     Check(Tarvex_Element_Polyhedron_GetPointCount(view, element, &count),
           "Tarvex_Element_Polyhedron_GetPointCount");
-    Vertices points(count);
+    std::vector<Coordinates> points(3, Coordinates(static_cast<size_t>(count)));
     double axis[3] = {};
     double height = 0.0;
-    Check(Tarvex_Element_Polyhedron_GetValue(view, element, points.X.data(), points.Y.data(),
-                                             points.Z.data(), &axis[0], &axis[1], &axis[2],
+    Check(Tarvex_Element_Polyhedron_GetValue(view, element, points[0].data(), points[1].data(),
+                                             points[2].data(), &axis[0], &axis[1], &axis[2],
                                              &height),
           "Tarvex_Element_Polyhedron_GetValue");
     std::printf("polyhedron of %d points, height %g along (%g, %g, %g)\n", count, height, axis[0],
                 axis[1], axis[2]);
-    points.Print();
+    PrintVertices(points);
 }
 
 void PrintElement(int32_t view, int32_t element)
@@ -88,21 +120,21 @@ void PrintElement(int32_t view, int32_t element)
     switch (type)
     {
     case TARVEX_ELEMENT_RECTANGLE:
-        PrintValues("rectangle (width, height, angle)", view, element,
+        PrintValues("rectangle (width, height, angle)", 3, view, element,
                     Tarvex_Element_Rectangle_GetValue);
         break;
     case TARVEX_ELEMENT_CUBE:
-        PrintValues("cube (lengths, angle)", view, element, Tarvex_Element_Cube_GetValue);
+        PrintValues("cube (lengths, angle)", 3, view, element, Tarvex_Element_Cube_GetValue);
         break;
     case TARVEX_ELEMENT_CIRCLE:
-        PrintValues("circle (radius, normal)", view, element, Tarvex_Element_Circle_GetValue);
+        PrintValues("circle (radius, normal)", 3, view, element, Tarvex_Element_Circle_GetValue);
         break;
     case TARVEX_ELEMENT_CYLINDER:
-        PrintValues("cylinder (axis, radius, height)", view, element,
+        PrintValues("cylinder (axis, radius, height)", 3, view, element,
                     Tarvex_Element_Cylinder_GetValue2);
         break;
     case TARVEX_ELEMENT_POLYGON:
-        PrintPolygon(view, element);
+        PrintPolygonOfView(view, element);
         break;
     case TARVEX_ELEMENT_POLYHEDRON:
         PrintPolyhedron(view, element);
@@ -113,13 +145,36 @@ void PrintElement(int32_t view, int32_t element)
     }
 }
 
+void PrintChartElement(int32_t chart, int32_t element)
+{
+    int32_t type = TARVEX_NONE;
+    Check(Tarvex_Element2D_GetType(chart, element, &type), "Tarvex_Element2D_GetType");
+    switch (type)
+    {
+    case TARVEX_ELEMENT_RECTANGLE:
+        PrintValues("rectangle (width, height, angle)", 2, chart, element,
+                    Tarvex_Element2D_Rectangle_GetValue);
+        break;
+    case TARVEX_ELEMENT_CIRCLE:
+        PrintValues("circle (radius)", 2, chart, element, Tarvex_Element2D_Circle_GetValue);
+        break;
+    case TARVEX_ELEMENT_POLYGON:
+        PrintPolygonOfChart(chart, element);
+        break;
+    default:
+        std::printf("type %d\n", type);
+        break;
+    }
+}
+
 // The library calls from within its handling of events: nothing may be thrown through it.
+template <void (*Print)(int32_t view, int32_t element)>
 void Report(const char* what, int32_t view, int32_t element)
 {
     try
     {
         std::printf("%s element %d: ", what, element);
-        PrintElement(view, element);
+        Print(view, element);
         std::fflush(stdout);
     }
     catch (const std::exception& error)
@@ -128,21 +183,31 @@ void Report(const char* what, int32_t view, int32_t element)
     }
 }
 
-void OnElementAdded(int32_t view, int32_t element)
+template <void (*Print)(int32_t view, int32_t element)>
+void OnAdded(int32_t view, int32_t element)
 {
-    Report("drawn", view, element);
+    Report<Print>("drawn", view, element);
 }
 
-void OnElementDragged(int32_t view, int32_t element)
+template <void (*Print)(int32_t view, int32_t element)>
+void OnDragged(int32_t view, int32_t element)
 {
-    Report("dragged", view, element);
+    Report<Print>("dragged", view, element);
 }
 } // namespace
 
 void ReportElements(int32_t view)
 {
-    Check(Tarvex_Window_RegisterCallback_ElementAdded(view, OnElementAdded),
+    Check(Tarvex_Window_RegisterCallback_ElementAdded(view, OnAdded<PrintElement>),
           "Tarvex_Window_RegisterCallback_ElementAdded");
-    Check(Tarvex_Window_RegisterCallback_ElementDragged(view, OnElementDragged),
+    Check(Tarvex_Window_RegisterCallback_ElementDragged(view, OnDragged<PrintElement>),
           "Tarvex_Window_RegisterCallback_ElementDragged");
+}
+
+void ReportChartElements(int32_t chart)
+{
+    Check(Tarvex_Window2D_RegisterCallback_ElementAdded(chart, OnAdded<PrintChartElement>),
+          "Tarvex_Window2D_RegisterCallback_ElementAdded");
+    Check(Tarvex_Window2D_RegisterCallback_ElementDragged(chart, OnDragged<PrintChartElement>),
+          "Tarvex_Window2D_RegisterCallback_ElementDragged");
 }

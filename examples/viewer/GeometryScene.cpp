@@ -1,47 +1,19 @@
 #include "GeometryScene.h"
 
+#include "Colors.h"
 #include "Features.h"
+#include "LaserScan.h"
 #include "Library.h"
 
 #include <Tarvex.h>
 
-#include <array>
 #include <cmath>
-#include <cstddef>
 #include <numbers>
 #include <vector>
 
 namespace
 {
-constexpr Color Red = {255, 70, 60};
-constexpr Color Orange = {255, 160, 40};
-constexpr Color Yellow = {255, 235, 70};
-constexpr Color Green = {70, 230, 90};
-constexpr Color Cyan = {60, 220, 235};
-constexpr Color Blue = {70, 130, 255};
-constexpr Color Violet = {180, 110, 255};
-constexpr Color Pink = {255, 120, 210};
-constexpr Color White = {255, 255, 255};
-constexpr Color Lime = {190, 255, 60};
 constexpr double LineWidth = 3.0;
-
-// Where the features of the laser scan are.
-constexpr Area Block = {0.094, 0.811, 0.411, 0.968};
-constexpr Area CylinderTop = {0.33, 0.52, 0.49, 0.755};
-constexpr Area ScrewHead = {0.775, 0.91, 0.12, 0.325};
-constexpr Area PlateMiddle = {0.26, 0.42, 0.31, 0.39};
-constexpr std::array<Spot, 3> Holes = {{{0.483, 0.224}, {0.604, 0.224}, {0.958, 0.228}}};
-constexpr std::array<Spot, 10> PlateOutline = {{{0.248, 0.002},
-                                                {0.322, 0.002},
-                                                {0.324, 0.24},
-                                                {0.363, 0.288},
-                                                {0.404, 0.24},
-                                                {0.401, 0.002},
-                                                {0.490, 0.002},
-                                                {0.500, 0.042},
-                                                {0.997, 0.042},
-                                                {0.997, 0.405}}};
-constexpr Spot PlateCorner = {0.248, 0.405};
 
 class SceneBuilder
 {
@@ -204,13 +176,6 @@ private:
     Extent Size;
 };
 
-bool CanBeActive(int32_t view, int32_t element)
-{
-    int32_t type = -1;
-    Check(Tarvex_Element_GetType(view, element, &type), "Tarvex_Element_GetType");
-    return type == TARVEX_ELEMENT_CYLINDER || type == TARVEX_ELEMENT_CUBE ||
-           type == TARVEX_ELEMENT_POLYHEDRON;
-}
 } // namespace
 
 void AddGeometryScene(int32_t view, const HeightMap& map, double exaggeration)
@@ -220,24 +185,4 @@ void AddGeometryScene(int32_t view, const HeightMap& map, double exaggeration)
     builder.AddRoundPart();
     builder.AddScrewHead();
     builder.AddPlate();
-}
-
-void ActivateNextElement(int32_t view)
-{
-    int32_t active = TARVEX_NONE;
-    Check(Tarvex_Window_GetActiveElement(view, &active), "Tarvex_Window_GetActiveElement");
-    int32_t count = 0;
-    Check(Tarvex_Element_GetCount(view, &count), "Tarvex_Element_GetCount");
-    int32_t next = TARVEX_NONE;
-    for (int32_t i = 0; i < count && next == TARVEX_NONE; ++i)
-    {
-        int32_t element = TARVEX_NONE;
-        Check(Tarvex_Element_GetIDFromIndex(view, i, &element), "Tarvex_Element_GetIDFromIndex");
-        // Ids rise in the order of the elements.
-        if (element > active && CanBeActive(view, element))
-        {
-            next = element;
-        }
-    }
-    Check(Tarvex_Window_SetActiveElement(view, next), "Tarvex_Window_SetActiveElement");
 }

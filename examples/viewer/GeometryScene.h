@@ -8,7 +8,3 @@
 // places to look at are those of the laser scan; on other surfaces the elements lie at the same
 // places, with less meaning. Throws LibraryError.
 void AddGeometryScene(int32_t view, const HeightMap& map, double exaggeration);
-
-// Makes the next cube, cylinder or polyhedron the active one, which shows handles to drag; after
-// the last of them none is. Shows with the next render.
-void ActivateNextElement(int32_t view);

@@ -40,12 +40,29 @@ void SetFlatColor(int32_t view, int32_t element, const Color& color)
           "Tarvex_Element_SetLighting");
 }
 
-SceneUpdate::SceneUpdate(int32_t view) : View(view)
+void PaintInChart(int32_t chart, int32_t element, const Color& color, double size)
 {
-    Check(TarvexExt_Window_BeginUpdate(View), "TarvexExt_Window_BeginUpdate");
+    Check(Tarvex_Element2D_SetColor(chart, element, color.Red, color.Green, color.Blue),
+          "Tarvex_Element2D_SetColor");
+    Check(Tarvex_Element2D_SetSize(chart, element, size), "Tarvex_Element2D_SetSize");
 }
 
-SceneUpdate::~SceneUpdate()
+ViewUpdate::ViewUpdate(int32_t view, Call begin, Call end) : View(view), End(end)
 {
-    TarvexExt_Window_EndUpdate(View);
+    Check(begin(View), "BeginUpdate");
+}
+
+ViewUpdate::~ViewUpdate()
+{
+    End(View);
+}
+
+SceneUpdate::SceneUpdate(int32_t view)
+    : ViewUpdate(view, TarvexExt_Window_BeginUpdate, TarvexExt_Window_EndUpdate)
+{
+}
+
+ChartUpdate::ChartUpdate(int32_t chart)
+    : ViewUpdate(chart, TarvexExt_Window2D_BeginUpdate, TarvexExt_Window2D_EndUpdate)
+{
 }

@@ -27,15 +27,34 @@ void SetSize(int32_t view, int32_t element, double size);
 // which bleaches bright colours.
 void SetFlatColor(int32_t view, int32_t element, const Color& color);
 
+// Of an element in a chart; the size in pixels.
+void PaintInChart(int32_t chart, int32_t element, const Color& color, double size);
+
 // Holds the pictures of a view back while it lives, so that many changes cost one picture.
-class SceneUpdate
+class ViewUpdate
 {
 public:
-    explicit SceneUpdate(int32_t view);
-    ~SceneUpdate();
-    SceneUpdate(const SceneUpdate&) = delete;
-    SceneUpdate& operator=(const SceneUpdate&) = delete;
+    ViewUpdate(const ViewUpdate&) = delete;
+    ViewUpdate& operator=(const ViewUpdate&) = delete;
+
+protected:
+    using Call = int32_t (*)(int32_t view);
+    ViewUpdate(int32_t view, Call begin, Call end);
+    ~ViewUpdate();
 
 private:
     int32_t View;
+    Call End;
+};
+
+class SceneUpdate : private ViewUpdate
+{
+public:
+    explicit SceneUpdate(int32_t view);
+};
+
+class ChartUpdate : private ViewUpdate
+{
+public:
+    explicit ChartUpdate(int32_t chart);
 };

@@ -3,9 +3,25 @@
 #include "HeightMap.h"
 #include "SurfaceView.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
+
+enum class SceneKind
+{
+    Surface,
+    Geometry, // the surface with geometric elements on it
+    Charts    // one chart with every kind of chart element
+};
+
+// The measurement moves on with each picture, as an object on a belt under the sensor.
+struct LiveMode
+{
+    bool IsOver(double seconds) const { return Seconds && seconds >= *Seconds; }
+
+    std::optional<double> Seconds; // none: until the user ends it
+};
 
 // The command line, checked.
 struct Options
@@ -19,6 +35,11 @@ struct Options
     LoadOptions Load;
     SceneLook Look;
     Furniture Around;
+    SceneKind Scene = SceneKind::Surface;
+    bool Charts = false;         // beside the surface
+    uint32_t Layout = 0;         // of all charts, one of TARVEX_CHART_...
+    std::optional<int32_t> Line; // row that the charts mark first
+    std::optional<LiveMode> Live;
     bool Print = false;
 };
 

@@ -58,9 +58,9 @@ SurfaceElement::SurfaceElement(int32_t view, const HeightMap& map, const Surface
         // A camera often uses a small part of 0 to 255, which would be one grey.
         const auto [darkest, brightest] =
             std::minmax_element(map.Intensities.begin(), map.Intensities.end());
-        Check(Calls.SetRange(View, Element, 0, 0.0, std::min<int32_t>(*darkest, 254),
-                             std::max<int32_t>(*brightest, *darkest + 1)),
-              "Tarvex_Element_ZScalingPalette");
+        Darkest = std::min<int32_t>(*darkest, 254);
+        Brightest = std::max<int32_t>(*brightest, *darkest + 1);
+        UseRange();
     }
 }
 
@@ -85,8 +85,46 @@ void SurfaceElement::Add(const HeightMap& map, const SurfaceLook& look)
           "Tarvex_Element_Add_SurfaceUniform");
 }
 
+void SurfaceElement::Replace(const HeightMap& map)
+{
+    const uint8_t* intensities = HasIntensities ? map.Intensities.data() : nullptr;
+    const double zScale = map.ZScale * Exaggeration;
+    const double zOffset = map.ZOffset * Exaggeration;
+    if (map.HasFreePositions())
+    {
+        Check(Tarvex_Element_SurfaceNonUniform_SetValue(
+                  View, Element, map.XSamples.data(), map.YSamples.data(), map.Samples.data(),
+                  intensities, map.Columns, map.Rows, map.XScale, map.YScale, zScale, map.XOffset,
+                  map.YOffset, zOffset),
+              "Tarvex_Element_SurfaceNonUniform_SetValue");
+    }
+    else
+    {
+        Check(Tarvex_Element_SurfaceUniform_SetValue(View, Element, map.Samples.data(), intensities,
+                                                     map.Columns, map.Rows, map.XScale, map.YScale,
+                                                     zScale, map.XOffset, map.YOffset, zOffset),
+              "Tarvex_Element_SurfaceUniform_SetValue");
+    }
+    // New samples come with ranges that hold all of them.
+    UseRange();
+}
+
+SurfaceColors SurfaceElement::Colors() const
+{
+    SurfaceColors colors;
+    Check(Calls.GetPalette(View, Element, &colors.Palette), "Tarvex_Element_GetPalette");
+    colors.Intensity = IntensityShown;
+    return colors;
+}
+
 void SurfaceElement::UseRange()
 {
+    if (IntensityShown)
+    {
+        Check(Calls.SetRange(View, Element, 0, 0.0, Darkest, Brightest),
+              "Tarvex_Element_ZScalingPalette");
+        return;
+    }
     Check(Calls.SetRange(View, Element, Range.Fixed ? 0 : 1, Range.ClipPercent,
                          Range.Min * Exaggeration, Range.Max * Exaggeration),
           "Tarvex_Element_ZScalingPalette");
@@ -94,9 +132,7 @@ void SurfaceElement::UseRange()
 
 void SurfaceElement::UseNextPalette()
 {
-    uint32_t palette = 0;
-    Check(Calls.GetPalette(View, Element, &palette), "Tarvex_Element_GetPalette");
-    Check(Calls.SetPalette(View, Element, (palette + 1) % PaletteCount),
+    Check(Calls.SetPalette(View, Element, (Colors().Palette + 1) % PaletteCount),
           "Tarvex_Element_SetPalette");
 }
 
@@ -135,9 +171,6 @@ void SurfaceElement::ShowIntensity(bool show)
 {
     Check(Calls.ShowIntensity(View, Element, show ? 1 : 0), "Tarvex_Element_ShowIntensity");
     IntensityShown = show;
-    if (!show)
-    {
-        // The range that was set for the intensities has ended the automatic one of the heights.
-        UseRange();
-    }
+    // A range that is set for the one ends the automatic one of the other.
+    UseRange();
 }

@@ -22,6 +22,13 @@ struct SurfaceLook
     ColorRange Range;
 };
 
+// What the colours of a surface show now.
+struct SurfaceColors
+{
+    uint32_t Palette = 0;
+    bool Intensity = false; // rather than heights
+};
+
 struct SurfaceCalls;
 
 // One measured surface in a 3D view. On a regular grid or with free positions: the library has a
@@ -32,7 +39,11 @@ public:
     // Adds the surface to the view. It shows its intensities if it has any.
     SurfaceElement(int32_t view, const HeightMap& map, const SurfaceLook& look);
 
+    // Other samples for the same surface.
+    void Replace(const HeightMap& map);
+
     int32_t Id() const { return Element; }
+    SurfaceColors Colors() const;
     void UseNextPalette();
     void ClipMore() { ChangeClipping(+1); }
     void ClipLess() { ChangeClipping(-1); }
@@ -52,4 +63,6 @@ private:
     int32_t Element = -1;
     bool HasIntensities;
     bool IntensityShown = false;
+    int32_t Darkest = 0; // of the intensities at first
+    int32_t Brightest = 255;
 };

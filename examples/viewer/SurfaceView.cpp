@@ -27,13 +27,23 @@ constexpr double FlatRelief = 0.35; // height as a share of the longer side
 
 // Share of the scene's size by which it moves to the left to make room for the bar.
 constexpr double RoomForBar = 0.09;
+constexpr double BesideBar = 0.85;    // share of the view's width
+constexpr double ProfileShare = 0.93; // likewise
+
+const ActiveElementCalls SceneCalls = {
+    Tarvex_Element_GetCount,
+    Tarvex_Element_GetIDFromIndex,
+    Tarvex_Element_GetType,
+    Tarvex_Window_GetActiveElement,
+    Tarvex_Window_SetActiveElement,
+    {TARVEX_ELEMENT_CYLINDER, TARVEX_ELEMENT_CUBE, TARVEX_ELEMENT_POLYHEDRON}};
 } // namespace
 
-SurfaceView::SurfaceView(void* parentWindow, int32_t width, int32_t height,
-                         const Furniture& furniture)
-    : Around(furniture)
+SurfaceView::SurfaceView(void* parentWindow, const Box& box, const Furniture& furniture)
+    : Placed(box), Around(furniture)
 {
-    Check(Tarvex_Window_Create(parentWindow, 1, 0, 0, width, height, &Id), "Tarvex_Window_Create");
+    Check(Tarvex_Window_Create(parentWindow, 1, box.Left, box.Top, box.Width, box.Height, &Id),
+          "Tarvex_Window_Create");
     try
     {
         // The first call that needs the native window; it fails where the view can't be shown.
@@ -58,15 +68,16 @@ void SurfaceView::Show(const HeightMap& map, const HeightStatistics& statistics,
 {
     const SceneUpdate update(Id);
     ShownSurface.reset();
+    MarkedRow.reset();
     Check(Tarvex_Element_RemoveAll(Id), "Tarvex_Element_RemoveAll");
-    const double exaggeration = look.Surface.Exaggeration;
+    Exaggeration = look.Surface.Exaggeration;
     Size = DescribeExtent(map);
-    Lowest = map.Height(statistics.Lowest) * exaggeration;
-    Highest = map.Height(statistics.Highest) * exaggeration;
+    Lowest = map.Height(statistics.Lowest) * Exaggeration;
+    Highest = map.Height(statistics.Highest) * Exaggeration;
     SetDrawSpace();
     if (map.IsProfile())
     {
-        AddProfile(Id, map, exaggeration);
+        AddProfile(Id, map, Exaggeration);
         ApplyFurniture();
         ShowFrom(TARVEX_VIEW_FRONT);
         return;
@@ -74,19 +85,42 @@ void SurfaceView::Show(const HeightMap& map, const HeightStatistics& statistics,
     ShownSurface.emplace(Id, map, look.Surface);
     if (look.Profiles > 0)
     {
-        AddProfiles(Id, map, exaggeration, look.Profiles);
+        AddProfiles(Id, map, Exaggeration, look.Profiles);
     }
     if (look.Geometry)
     {
-        AddGeometryScene(Id, map, exaggeration);
+        AddGeometryScene(Id, map, Exaggeration);
     }
-    if (look.Profiles == 0 && !look.Geometry)
+    if (look.Marks)
     {
-        AddMarks(Id, map, statistics, exaggeration);
+        AddMarks(Id, map, statistics, Exaggeration);
     }
     ApplyFurniture();
     LookObliquely();
     Frame();
+}
+
+void SurfaceView::Replace(const HeightMap& map, std::optional<int32_t> markedRow)
+{
+    const SceneUpdate update(Id);
+    if (ShownSurface)
+    {
+        ShownSurface->Replace(map);
+    }
+    if (markedRow)
+    {
+        MarkRow(map, *markedRow);
+    }
+}
+
+void SurfaceView::MarkRow(const HeightMap& map, int32_t row)
+{
+    const SceneUpdate update(Id);
+    if (MarkedRow)
+    {
+        Check(Tarvex_Element_Remove(Id, *MarkedRow), "Tarvex_Element_Remove");
+    }
+    MarkedRow = AddMarkedProfile(Id, map, Exaggeration, row);
 }
 
 void SurfaceView::SetDrawSpace()
@@ -144,7 +178,7 @@ void SurfaceView::ToggleFurniture(bool Furniture::*part)
 
 void SurfaceView::ActivateNextElement()
 {
-    ::ActivateNextElement(Id);
+    ActivateNext(Id, SceneCalls);
     Redraw();
 }
 
@@ -153,9 +187,11 @@ void SurfaceView::ChooseDrawMode(uint32_t mode)
     Check(Tarvex_Window_SetDrawMode(Id, mode), "Tarvex_Window_SetDrawMode");
 }
 
-void SurfaceView::Resize(int32_t width, int32_t height)
+void SurfaceView::Place(const Box& box)
 {
-    Check(Tarvex_Window_UpdateSize(Id, 0, 0, width, height), "Tarvex_Window_UpdateSize");
+    Placed = box;
+    Check(Tarvex_Window_UpdateSize(Id, box.Left, box.Top, box.Width, box.Height),
+          "Tarvex_Window_UpdateSize");
     // The new size shows with the next render.
     Redraw();
 }
@@ -188,7 +224,13 @@ void SurfaceView::ShowFrom(int32_t predefinedView)
 void SurfaceView::ComeNearer(double most)
 {
     const bool hasBar = Around.Bar && ShownSurface;
-    Zoom(std::min(most, hasBar ? NearerWithBar : Around.Frame ? NearerWithFrame : Nearer));
+    // The library lets the height of the view decide, whatever its width.
+    const double aspect = (hasBar ? BesideBar : 1.0) * Placed.Width / Placed.Height;
+    const double near = std::min(most, hasBar         ? NearerWithBar
+                                       : Around.Frame ? NearerWithFrame
+                                                      : Nearer);
+    // A profile is as wide as the sphere around it, a surface is seen obliquely.
+    Zoom(ShownSurface ? near * std::min(1.0, aspect) : std::min(near, ProfileShare * aspect));
     if (!hasBar)
     {
         return;
@@ -235,14 +277,5 @@ void SurfaceView::ToggleParallelProjection()
 
 RgbPicture SurfaceView::Picture() const
 {
-    RgbPicture picture;
-    Check(TarvexExt_Window_CopyImage(Id, nullptr, 0, &picture.Width, &picture.Height),
-          "TarvexExt_Window_CopyImage");
-    picture.Rgb.resize(static_cast<size_t>(picture.Width) * static_cast<size_t>(picture.Height) *
-                       3);
-    Check(TarvexExt_Window_CopyImage(Id, picture.Rgb.data(),
-                                     static_cast<int32_t>(picture.Rgb.size()), &picture.Width,
-                                     &picture.Height),
-          "TarvexExt_Window_CopyImage");
-    return picture;
+    return CopyPicture(Id, TarvexExt_Window_CopyImage);
 }
