@@ -7,7 +7,6 @@
 //   OnChange    a method of a chart element that changes its geometry
 //   OnAdd       a new 3D element: the add sequence, with the defaults of its type
 //   OnAddToChart  a new chart element: the add sequence, and what the axes do then
-//   NotBuilt    declared, exported and answered, but without its feature yet
 #pragma once
 
 #include "frame/CWindowManager.h"
@@ -117,20 +116,4 @@ int32_t OnAddToChart(int32_t windowId, ChartFit fit, int32_t* elementId, Geometr
 {
     return OnViewDo<CWindow2D>(windowId, [&](CWindow2D& view)
                                { return view.AddElement<Class>(fit, elementId, geometry...); });
-}
-
-template <class View>
-int32_t NotBuilt(int32_t windowId)
-{
-    return OnViewDo<View>(windowId,
-                          [](View& view) -> int32_t
-                          {
-                              const int32_t status = view.Guard();
-                              return status == STATUS_OK ? int32_t{STATUS_NOT_SUPPORTED} : status;
-                          });
-}
-
-inline int32_t NotBuilt()
-{
-    return CWindowManager::Instance ? STATUS_NOT_SUPPORTED : STATUS_NULL_ARGUMENT;
 }

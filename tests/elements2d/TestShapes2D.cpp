@@ -3,6 +3,7 @@
 #include "elements2d/CElement_Draggable2D.h"
 #include "frame/CWindowManager.h"
 #include "frame/FailingAllocations.h"
+#include "support/TestView.h"
 #include "support/ViewFixture.h"
 
 #include <vtkChartHistogram2D.h>
@@ -205,8 +206,11 @@ TEST_F(Shapes2D, AreDrawnOnTopAfterAChange)
         const int32_t element = AddShape(*kind);
         vtkPlot* plot = TopPlot();
         const int32_t above = AddActive(polygon, polygon.Given);
+        EXPECT_EQ(Tarvex_Element2D_SetColor(Id, element, 255, 0, 0), STATUS_OK);
         EXPECT_EQ(Call(kind->SetValue, element, kind->Given), STATUS_OK);
         EXPECT_EQ(TopPlot(), plot);
+        EXPECT_GT(TakeChartPicture(Id).Count(IsRed), 0) << "in the picture, not just in the list";
+        EXPECT_EQ(Tarvex_Element2D_SetColor(Id, element, 255, 255, 0), STATUS_OK);
         EXPECT_EQ(Tarvex_Element2D_Polygon_RemovePoint(Id, above, 3), STATUS_OK);
         EXPECT_EQ(TopPlot(2), plot) << "below the outline and the handles";
     }
