@@ -49,13 +49,6 @@ TEST_F(Elements, CountFromZeroInEachViewAndNeverReuseAnId)
     EXPECT_EQ(AddPoint(0, 0, 0), 4);
 }
 
-TEST_F(Elements, UseUpNoIdWhenAnAddFails)
-{
-    EXPECT_EQ(Call(Tarvex_Element_Add_ProfileUniform, {0, 0, 0, 0, 1}), STATUS_TOO_SMALL);
-    EXPECT_THAT(List(), IsEmpty());
-    EXPECT_EQ(AddPoint(0, 0, 0), 0);
-}
-
 TEST_F(Elements, StayListedAndAnswerAndLeaveTheOthersWhileHidden)
 {
     LookDown();
