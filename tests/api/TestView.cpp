@@ -66,17 +66,4 @@ TEST_F(AView, TakesOnlyBoxesWithAnExtentOnEachAxis)
         EXPECT_EQ(Read(Tarvex_Window_GetDrawSpace), least) << testing::PrintToString(flat);
     }
 }
-
-TEST_F(AView, HasNoActiveElementUnlessOneWithHandlesIsChosen)
-{
-    const int32_t point = AddPoint(0, 0, 0);
-    for (const auto& [element, status] : {std::pair(TARVEX_NONE, STATUS_OK),
-                                          {-7, STATUS_OK},
-                                          {point, STATUS_OK},
-                                          {point + 1, STATUS_BAD_INDEX}})
-    {
-        EXPECT_EQ(Tarvex_Window_SetActiveElement(Id, element), status) << element;
-        EXPECT_EQ(Read(Tarvex_Window_GetActiveElement), Numbers{TARVEX_NONE}) << element;
-    }
-}
 } // namespace

@@ -138,17 +138,24 @@ TEST_F(ResizeHandles, MoveAPointOrAllOfAPolyhedron)
 
 TEST_F(ResizeHandles, AreHiddenWithTheActiveElementAndGoWithIt)
 {
+    const int32_t point = AddPoint(0, 0, 0);
     AddNew(Tarvex_Element_Add_Cube, Cube);
     const int without = CountActors();
-    ASSERT_EQ(Tarvex_Window_SetActiveElement(Id, Element), STATUS_OK);
-    for (const uint8_t shown : {1, 0, 1})
+    for (const auto& [next, status] :
+         {std::pair(TARVEX_NONE, STATUS_OK), {99, STATUS_BAD_INDEX}, {point, STATUS_OK}})
     {
-        Tarvex_Element_Show(Id, Element, shown);
-        EXPECT_EQ(CountActors(), shown ? without + 10 : without - 1);
+        ASSERT_EQ(Tarvex_Window_SetActiveElement(Id, Element), STATUS_OK);
+        EXPECT_EQ(Read(Tarvex_Window_GetActiveElement), Numbers{static_cast<double>(Element)});
+        for (const uint8_t shown : {1, 0, 1})
+        {
+            Tarvex_Element_Show(Id, Element, shown);
+            EXPECT_EQ(CountActors(), shown ? without + 10 : without - 1);
+        }
+        EXPECT_EQ(Tarvex_Window_SetActiveElement(Id, next), status);
+        EXPECT_EQ(Read(Tarvex_Window_GetActiveElement), Numbers{TARVEX_NONE});
+        const auto& target = View->GetDefaultStyle()->GetDragTarget();
+        EXPECT_FALSE(target.Actors || target.X || target.Y || target.Z || target.Forward);
+        EXPECT_EQ(CountActors(), without);
     }
-    EXPECT_EQ(Tarvex_Window_SetActiveElement(Id, 99), STATUS_BAD_INDEX);
-    const auto& target = View->GetDefaultStyle()->GetDragTarget();
-    EXPECT_FALSE(target.Actors || target.X || target.Y || target.Z || target.Forward);
-    EXPECT_EQ(CountActors(), without);
 }
 } // namespace
