@@ -74,7 +74,7 @@ TEST_F(Lines, TellTheirEndsAndLengthAfterEachCall)
         {limit, {-2, 2, 0, 0.09, -1, 1}, STATUS_OUT_OF_RANGE, alongX, usual},
         {limit, {-2, 2, -1, 1, 1, -1}, STATUS_OUT_OF_RANGE, alongX, usual},
         {limit, {-2, 2, 0, 0.1, -1, 1}, STATUS_OK, {-2, 0, 0, 2, 0, 0}, {-2, 2}},
-        {add, {0, 0, 0, -1, 0, 0}, STATUS_OK, {50, 0, 0, -50, 0, 0}, usual},
+        {add, {0, 0, 0, -1, 0, 0}, STATUS_OK, alongX, usual},
         {limit, {-2, 7, -1, 3, -1, 1}, STATUS_OK, {7, 0, 0, -2, 0, 0}, {-7, 2}},
         {add, {0, 0, 0, 1e-6, 1, 0}, STATUS_OK, {-5e-5, 50, 0, 5e-5, -50, 0}, usual},
         {limit, {-2, 7, -1, 3, -1, 1}, STATUS_OK, {-1e-6, 1, 0, 3e-6, -3, 0}, {-1, 3}}};

@@ -74,7 +74,12 @@ protected:
         Set(kind, changed, values);
         EXPECT_EQ(IsValid(added), valid);
         EXPECT_EQ(IsValid(changed), valid);
-        EXPECT_TRUE(valid || Read(kind.Get, changed) == values) << "the raw normal among them";
+        Numbers told = values; // the raw normal among them, but no size that is too small
+        if (&kind == &point && !(told.back() >= 0.001))
+        {
+            told.back() = kind.Good.back();
+        }
+        EXPECT_TRUE(valid || Read(kind.Get, changed) == told);
         ExpectNearCamera();
         Tarvex_Element_Remove(Id, added);
         Tarvex_Element_Remove(Id, changed);
