@@ -347,14 +347,20 @@ TEST_F(MouseStyles, WorkWhileAnotherThreadCalls)
 TEST_F(MouseStyles, DragHandlesOnlyBetweenDrawingGestures)
 {
     const int32_t cube = AddActiveCube();
-    ASSERT_EQ(Tarvex_Window_SetDrawMode(Id, TARVEX_DRAW_CUBE), STATUS_OK);
+    ASSERT_EQ(Tarvex_Window_SetDrawMode(Id, TARVEX_DRAW_POLYHEDRON), STATUS_OK);
     DragCube(cube);
     EXPECT_EQ(heard, Told(cube));
     EXPECT_EQ(Read(Tarvex_Element_GetCount), Numbers{1});
     const double x = CubeX(cube);
-    // A gesture that ends on the handle.
-    DragBy({60, 140}, PixelOf(HandleAt(cube, 1)).X - 60, PixelOf(HandleAt(cube, 1)).Y - 140);
-    EXPECT_EQ(Read(Tarvex_Element_GetCount), Numbers{2});
+    for (const Pixel& at : {Pixel{60, 140}, PixelOf(HandleAt(cube, 1)), Pixel{140, 150}})
+    {
+        MoveTo(at);
+        Click(1, true);
+        Click(1, false);
+    }
+    Click(3, true);
+    Click(3, false);
+    EXPECT_EQ(Read(Tarvex_Element_Polyhedron_GetPointCount, cube + 1), Numbers{3});
     EXPECT_EQ(heard, Told(cube));
     EXPECT_EQ(CubeX(cube), x);
 }
