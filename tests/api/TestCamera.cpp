@@ -55,17 +55,6 @@ TEST_F(Camera, FramesTheSceneInAPredefinedViewAndWithAutoSize)
     EXPECT_NEAR(Get()[3], 0.6, 1e-9) << "turned";
 }
 
-TEST_F(Camera, MovesWithoutTurning)
-{
-    EXPECT_EQ(Turn({1, 2, -2, 0, 0, 1}), STATUS_OK);
-    Numbers expected = Get();
-    MoveTo(10, -20, 30);
-    expected[0] = 10;
-    expected[1] = -20;
-    expected[2] = 30;
-    EXPECT_THAT(Get(), Pointwise(DoubleNear(1e-9), expected));
-}
-
 TEST_F(Camera, TurnsAroundItsFocalPointAndStraightensALeaningUpVector)
 {
     const Numbers along = {-95, 6, 0, 1, 0, 0, 0, 0, 1};

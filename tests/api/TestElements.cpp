@@ -1,4 +1,4 @@
-// Elements of a view by their ids and positions, shown, hidden and removed.
+// Elements of a view by their ids and positions.
 #include "support/ViewFixture.h"
 
 namespace
@@ -47,34 +47,5 @@ TEST_F(Elements, CountFromZeroInEachViewAndNeverReuseAnId)
     EXPECT_THAT(List(), IsEmpty());
     EXPECT_EQ(CountLit(), 0);
     EXPECT_EQ(AddPoint(0, 0, 0), 4);
-}
-
-TEST_F(Elements, UseUpNoIdWhenAnAddFails)
-{
-    EXPECT_EQ(Call(Tarvex_Element_Add_ProfileUniform, {0, 0, 0, 0, 1}), STATUS_TOO_SMALL);
-    EXPECT_THAT(List(), IsEmpty());
-    EXPECT_EQ(AddPoint(0, 0, 0), 0);
-}
-
-TEST_F(Elements, StayListedAndAnswerAndLeaveTheOthersWhileHidden)
-{
-    LookDown();
-    AddPoint(-10, 0, 0);
-    const Picture alone = TakePicture(Id);
-    const int32_t point = AddPoint(10, 0, 0);
-    const Picture both = TakePicture(Id);
-    EXPECT_GT(both.CountDifferences(alone), 0);
-    for (const uint8_t show : {0, 0, 255, 1, 0}) // again and again
-    {
-        EXPECT_EQ(Tarvex_Element_Show(Id, point, show), STATUS_OK);
-        EXPECT_EQ(TakePicture(Id).CountDifferences(show ? both : alone), 0);
-    }
-    EXPECT_THAT(List(), ElementsAre(0, point));
-    EXPECT_EQ(Tarvex_Element_Point_SetValue(Id, point, 10, 0, 0, 0.3), STATUS_OK);
-    EXPECT_TRUE(IsValid(point));
-    EXPECT_EQ(TakePicture(Id).CountDifferences(alone), 0) << "new values do not show it";
-    EXPECT_EQ(Tarvex_Element_Show(Id, point, 1), STATUS_OK);
-    EXPECT_EQ(Tarvex_Element_Remove(Id, point), STATUS_OK);
-    EXPECT_EQ(TakePicture(Id).CountDifferences(alone), 0);
 }
 } // namespace

@@ -1,4 +1,4 @@
-// The picture of a view, the version and the last error.
+// The picture of a view and the last error.
 #include "TarvexExt.h"
 #include "support/ViewFixture.h"
 
@@ -33,24 +33,6 @@ TEST_F(PictureOfAView, IsNotWrittenIntoTooFewBytes)
         EXPECT_EQ(std::pair(width, height), std::pair(Pixels, Pixels));
         EXPECT_THAT(rgb, testing::Each(77));
     }
-}
-
-TEST_F(PictureOfAView, IsRightWhileTheWindowIsCovered)
-{
-    int32_t cover = TARVEX_NONE;
-    EXPECT_EQ(Tarvex_Window_Create(Host.Handle(), 1, 0, 0, Pixels, Pixels, &cover), STATUS_OK);
-    EXPECT_EQ(Tarvex_Window_SetBackgroundColor(cover, 200, 0, 0), STATUS_OK);
-    EXPECT_EQ(Tarvex_Window_SetBackgroundColor(Id, 7, 8, 9), STATUS_OK);
-    const auto isBackground = [](const Picture::Color& color) {
-        return color == Picture::Color{7, 8, 9};
-    };
-    EXPECT_EQ(TakePicture(Id).Count(isBackground), Pixels * Pixels);
-    EXPECT_EQ(Tarvex_Window_Delete(cover), STATUS_OK);
-}
-
-TEST(TheVersion, HasThreeNumbers)
-{
-    EXPECT_THAT(TarvexExt_GetVersion(), testing::MatchesRegex("[0-9]+\\.[0-9]+\\.[0-9]+"));
 }
 
 TEST(TheLastError, IsCutToTheRoomThatItIsGiven)

@@ -5,21 +5,19 @@
 
 namespace
 {
-class Points : public ViewFixture
-{
-protected:
-    // x, y, z, size
-    Numbers Get(int32_t point) const { return Read(Tarvex_Element_Point_GetValue, point); }
-};
+using testing::DoubleNear;
+using testing::Pointwise;
+using Points = ViewFixture;
 
 TEST_F(Points, KeepWhatTheyWereGivenExceptTooSmallASize)
 {
     const int32_t point = AddPoint(1, 2, -3);
-    EXPECT_EQ(Get(point), (Numbers{1, 2, -3, 0.3}));
+    const auto get = [&] { return Read(Tarvex_Element_Point_GetValue, point); };
+    EXPECT_EQ(get(), (Numbers{1, 2, -3, 0.3}));
     for (const double size : {5.0, 0.001, 0.0005})
     {
         EXPECT_EQ(Tarvex_Element_Point_SetValue(Id, point, 4, -5, size, size), STATUS_OK);
-        EXPECT_EQ(Get(point), (Numbers{4, -5, size, std::max(size, 0.001)}));
+        EXPECT_EQ(get(), (Numbers{4, -5, size, std::max(size, 0.001)}));
         EXPECT_TRUE(IsValid(point));
     }
 }
@@ -42,68 +40,70 @@ TEST_F(Points, AreInvalidWithTheMarkersAndABandAndNothingBesideThem)
     }
 }
 
-TEST_F(Points, GiveBackUnusableNumbersToo)
+using Lines = ViewFixture;
+
+TEST_F(Lines, TellTheirEndsAndLengthAfterEachCall)
 {
-    const int32_t point = AddPoint(0, 0, 0);
-    for (size_t unusable = 0; unusable < 4; ++unusable)
+    const Export add = Tarvex_Element_Add_Line;
+    const Export set = Tarvex_Element_Line_SetValue;
+    const Export stretch = Tarvex_Element_SetLength_Line;
+    const Export limit = Tarvex_Element_SetDrawLimit_Line;
+    const Numbers alongX = {-50, 0, 0, 50, 0, 0}; // through the initial box
+    const Numbers usual = {-10, 10};
+    const Numbers none = {0, 0}; // of an invalid line
+    // A call for a new line, then some for that one; its ends in the world, and its length.
+    const std::tuple<const Export&, Numbers, int32_t, Numbers, Numbers> steps[] = {
+        {add, {0, 20, 100, 1, 0, 0}, STATUS_OK, {-10, -20, 100, 10, -20, 100}, usual},
+        {add, {0, 0, 0, 5, 0, 0}, STATUS_OK, alongX, usual},
+        {set, {1, 2, 3, 2, 2, 3}, STATUS_OK, {-50, -2, 3, 50, -2, 3}, {0, 1}},
+        {set, {60, 1, 2, 60, 4, 6}, STATUS_OK, {60, -1, 2, 60, -4, 6}, {0, 5}}, // beside the box
+        {set, {0, 0, 0, 1, 0, 0}, STATUS_OK, alongX, {0, 1}},
+        // Invalid it keeps its last ends and takes a limit.
+        {set, {0, 0, 0, 0, 0, 0}, STATUS_OK, alongX, none},
+        {stretch, {1, 2}, STATUS_INVALID_VALUES, alongX, none},
+        {limit, {-2, 7, -1, 1, -1, 1}, STATUS_OK, alongX, none},
+        {set, {0, 0, 0, 1, 0, 0}, STATUS_OK, {-2, 0, 0, 7, 0, 0}, {0, 1}},
+        {add, {0, 0, 0, 0, 0, 0}, STATUS_OK, {0, 0, 0, 10, -10, 10}, none},
+        {add, {1, 0, 0, 0, 2, 0}, STATUS_OK, {1, 50, 0, 1, -50, 0}, usual},
+        {stretch, {100, -5}, STATUS_OK, {1, 5, 0, 1, -100, 0}, {-5, 100}},
+        {stretch, {3, 3 + 0.9e-9}, STATUS_TOO_SMALL, {1, 5, 0, 1, -100, 0}, {-5, 100}},
+        // A limit that misses the line, and some that are too thin.
+        {add, {0, 0, 0, 1, 0, 0}, STATUS_OK, alongX, usual},
+        {limit, {-2, 7, 5, 6, -1, 1}, STATUS_OK, alongX, usual},
+        {limit, {-2, -2.05, -1, 1, -1, 1}, STATUS_OUT_OF_RANGE, alongX, usual},
+        {limit, {-2, 2, 0, 0.09, -1, 1}, STATUS_OUT_OF_RANGE, alongX, usual},
+        {limit, {-2, 2, -1, 1, 1, -1}, STATUS_OUT_OF_RANGE, alongX, usual},
+        {limit, {-2, 2, 0, 0.1, -1, 1}, STATUS_OK, {-2, 0, 0, 2, 0, 0}, {-2, 2}},
+        {add, {0, 0, 0, -1, 0, 0}, STATUS_OK, alongX, usual},
+        {limit, {-2, 7, -1, 3, -1, 1}, STATUS_OK, {7, 0, 0, -2, 0, 0}, {-7, 2}},
+        {add, {0, 0, 0, 1e-6, 1, 0}, STATUS_OK, {-5e-5, 50, 0, 5e-5, -50, 0}, usual},
+        {limit, {-2, 7, -1, 3, -1, 1}, STATUS_OK, {-1e-6, 1, 0, 3e-6, -3, 0}, {-1, 3}}};
+    int32_t line = TARVEX_NONE;
+    for (const auto& [function, given, status, ends, length] : steps)
     {
-        Numbers values = {1, 2, 3, 4};
-        EXPECT_EQ(Call(Tarvex_Element_Point_SetValue, point, values), STATUS_OK);
-        EXPECT_TRUE(IsValid(point));
-        values[unusable] = Marker;
-        EXPECT_EQ(Call(Tarvex_Element_Point_SetValue, point, values), STATUS_OK);
-        EXPECT_FALSE(IsValid(point)) << unusable;
-        EXPECT_EQ(Get(point), values);
+        SCOPED_TRACE(testing::PrintToString(given));
+        const bool isNew = &function == &add;
+        line += isNew ? 1 : 0;
+        EXPECT_EQ(isNew ? Call(add, given) : Call(function, line, given), status);
+        const int32_t valid = length == none ? STATUS_INVALID_VALUES : STATUS_OK;
+        EXPECT_THAT(Read(Tarvex_Element_GetLength_Line, line, valid),
+                    Pointwise(DoubleNear(1e-9), length));
+        EXPECT_THAT(Read(Tarvex_Element_Line_GetValue, line), Pointwise(DoubleNear(1e-9), ends));
     }
 }
 
-class Lines : public ViewFixture
+// A view takes thinner ones.
+TEST_F(Lines, TakeABoxThickerThanATenthOnly)
 {
-protected:
-    // Two points in the world.
-    Numbers Get(int32_t line) const { return Read(Tarvex_Element_Line_GetValue, line); }
-    // Start and end.
-    Numbers GetLength(int32_t line, int32_t status = STATUS_OK) const
-    {
-        return Read(Tarvex_Element_GetLength_Line, line, status);
-    }
-    int32_t Set(int32_t line, const Numbers& points) const
-    {
-        return Call(Tarvex_Element_Line_SetValue, line, points);
-    }
-    int32_t SetDrawLimit(int32_t line, const Numbers& box) const
-    {
-        return Call(Tarvex_Element_SetDrawLimit_Line, line, box);
-    }
-
-    const Numbers AlongX = {-50, 0, 0, 50, 0, 0}; // through the initial box
-};
-
-TEST_F(Lines, SpanTheBoxOrBesideItTheirDefaultLength)
-{
-    const int32_t line = AddLine(0, 0, 0, 5, 0, 0);
-    EXPECT_EQ(Get(line), AlongX);
-    EXPECT_EQ(GetLength(line), (Numbers{-10, 10}));
-    EXPECT_EQ(Get(AddLine(0, 20, 100, 1, 0, 0)), (Numbers{-10, -20, 100, 10, -20, 100}));
-    // A line takes a box thicker than 0.1 only, a view also thinner ones.
     for (const double extent : {0.1, 0.11})
     {
         EXPECT_EQ(Tarvex_Window_SetDrawSpace(Id, -1, 1, 0, extent, -1, 1), STATUS_OK);
         const double reach = extent > 0.1 ? 1 : 50;
-        EXPECT_EQ(Get(AddLine(0, 0.05, 0, 1, 0, 0)), (Numbers{-reach, -0.05, 0, reach, -0.05, 0}));
+        const int32_t line = AddLine(0, 0.05, 0, 1, 0, 0);
+        EXPECT_EQ(Read(Tarvex_Element_Line_GetValue, line),
+                  (Numbers{-reach, -0.05, 0, reach, -0.05, 0}));
     }
-    EXPECT_EQ(GetLength(line), (Numbers{-1, 1})) << "follows the box of the view";
-}
-
-TEST_F(Lines, ThroughTwoPointsGiveBackTheirEndsInTheWorld)
-{
-    const int32_t line = AddLine(0, 0, 0, 0, 0, 1);
-    EXPECT_EQ(Set(line, {1, 2, 3, 2, 2, 3}), STATUS_OK);
-    EXPECT_EQ(Get(line), (Numbers{-50, -2, 3, 50, -2, 3}));
-    EXPECT_EQ(GetLength(line), (Numbers{0, 1}));
-    EXPECT_EQ(Set(line, {60, 1, 2, 60, 4, 6}), STATUS_OK) << "outside the box: as given";
-    EXPECT_EQ(Get(line), (Numbers{60, -1, 2, 60, -4, 6}));
-    EXPECT_EQ(GetLength(line), (Numbers{0, 5}));
+    EXPECT_EQ(Read(Tarvex_Element_GetLength_Line, 0), (Numbers{-1, 1})) << "follows the view's box";
 }
 
 TEST_F(Lines, AreInvalidWithoutADirection)
@@ -117,46 +117,8 @@ TEST_F(Lines, AreInvalidWithoutADirection)
     const int32_t line = AddLine(0, 0, 0, 1, 0, 0);
     for (const auto& [distance, valid] : {std::pair(1e-10, false), {1.1e-9, true}})
     {
-        EXPECT_EQ(Set(line, {0, 0, 0, 0, 0, distance}), STATUS_OK);
+        EXPECT_EQ(Tarvex_Element_Line_SetValue(Id, line, 0, 0, 0, 0, 0, distance), STATUS_OK);
         EXPECT_EQ(IsValid(line), valid) << distance;
-    }
-}
-
-TEST_F(Lines, KeepTheirLastEndsAndADrawLimitWhileInvalidButHaveNoLength)
-{
-    const int32_t line = AddLine(0, 0, 0, 1, 0, 0);
-    EXPECT_EQ(Set(line, {0, 0, 0, 0, 0, 0}), STATUS_OK);
-    EXPECT_EQ(GetLength(line, STATUS_INVALID_VALUES), (Numbers{0, 0}));
-    EXPECT_EQ(Tarvex_Element_SetLength_Line(Id, line, 1, 2), STATUS_INVALID_VALUES);
-    EXPECT_EQ(Get(line), AlongX);
-    EXPECT_EQ(Get(AddLine(0, 0, 0, 0, 0, 0)), (Numbers{0, 0, 0, 10, -10, 10})) << "never valid";
-    EXPECT_EQ(SetDrawLimit(line, {-2, 7, -1, 1, -1, 1}), STATUS_OK);
-    EXPECT_EQ(Set(line, {0, 0, 0, 1, 0, 0}), STATUS_OK);
-    EXPECT_EQ(Get(line), (Numbers{-2, 0, 0, 7, 0, 0}));
-}
-
-TEST_F(Lines, TakeALengthInEitherOrderAndUnclipped)
-{
-    const int32_t line = AddLine(1, 0, 0, 0, 2, 0);
-    EXPECT_EQ(Tarvex_Element_SetLength_Line(Id, line, 100, -5), STATUS_OK);
-    EXPECT_EQ(Tarvex_Element_SetLength_Line(Id, line, 3, 3 + 0.9e-9), STATUS_TOO_SMALL);
-    EXPECT_EQ(GetLength(line), (Numbers{-5, 100}));
-    EXPECT_EQ(Get(line), (Numbers{1, 5, 0, 1, -100, 0}));
-}
-
-TEST_F(Lines, AreCutByADrawLimitOfTheirOwn)
-{
-    // By direction, which may be steep: length and ends.
-    const std::tuple<double, double, Numbers, Numbers> cases[] = {
-        {1, 0, {-2, 7}, {-2, 0, 0, 7, 0, 0}},
-        {-1, 0, {-7, 2}, {7, 0, 0, -2, 0, 0}},
-        {1e-6, 1, {-1, 3}, {-1e-6, 1, 0, 3e-6, -3, 0}}};
-    for (const auto& [x, y, length, ends] : cases)
-    {
-        const int32_t line = AddLine(0, 0, 0, x, y, 0);
-        EXPECT_EQ(SetDrawLimit(line, {-2, 7, -1, 3, -1, 1}), STATUS_OK);
-        EXPECT_THAT(GetLength(line), testing::Pointwise(testing::DoubleNear(1e-9), length));
-        EXPECT_THAT(Get(line), testing::Pointwise(testing::DoubleNear(1e-9), ends));
     }
 }
 
@@ -190,21 +152,9 @@ TEST_F(Lines, AreCutByTheInitialBoxIfTheyCrossIt)
         }
         expected[1] *= -1;
         expected[4] *= -1;
-        EXPECT_THAT(Get(Add(Tarvex_Element_Add_Line, given)),
-                    testing::Pointwise(testing::DoubleNear(1e-9), expected));
+        const int32_t line = Add(Tarvex_Element_Add_Line, given);
+        EXPECT_THAT(Read(Tarvex_Element_Line_GetValue, line),
+                    Pointwise(DoubleNear(1e-9), expected));
     }
-}
-
-TEST_F(Lines, StayAsTheyAreWhenADrawLimitMissesThemOrIsTooThin)
-{
-    const int32_t line = AddLine(0, 0, 0, 1, 0, 0);
-    EXPECT_EQ(SetDrawLimit(line, {-2, 7, 5, 6, -1, 1}), STATUS_OK);
-    EXPECT_EQ(SetDrawLimit(line, {-2, -2.05, -1, 1, -1, 1}), STATUS_OUT_OF_RANGE);
-    EXPECT_EQ(SetDrawLimit(line, {-2, 2, 0, 0.09, -1, 1}), STATUS_OUT_OF_RANGE);
-    EXPECT_EQ(SetDrawLimit(line, {-2, 2, -1, 1, 1, -1}), STATUS_OUT_OF_RANGE);
-    EXPECT_EQ(Get(line), AlongX);
-    EXPECT_EQ(GetLength(line), (Numbers{-10, 10}));
-    EXPECT_EQ(SetDrawLimit(line, {-2, 2, 0, 0.1, -1, 1}), STATUS_OK);
-    EXPECT_EQ(Get(line), (Numbers{-2, 0, 0, 2, 0, 0}));
 }
 } // namespace

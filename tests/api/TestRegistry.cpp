@@ -56,20 +56,4 @@ TEST_F(Registry, ListsViewsByAgeAndNeverGivesAnIdAgain)
     EXPECT_TRUE(Host.Children().empty());
     EXPECT_EQ(Create(), first + 4);
 }
-
-TEST_F(Registry, KeepsViewsAndChartViewsApart)
-{
-    const int32_t id = Create();
-    int32_t charts = -1;
-    EXPECT_EQ(Tarvex_Window2D_GetCount(&charts), STATUS_OK);
-    EXPECT_EQ(charts, 0);
-    EXPECT_EQ(Tarvex_Window2D_GetIDFromIndex(0, &charts), STATUS_BAD_INDEX);
-    EXPECT_EQ(charts, TARVEX_NONE);
-    EXPECT_EQ(Tarvex_Window2D_Delete(id), STATUS_WINDOW_NOT_FOUND);
-    EXPECT_EQ(Tarvex_Window2D_RegisterCallback_ElementAdded(id, nullptr), STATUS_WINDOW_NOT_FOUND);
-    EXPECT_EQ(Tarvex_Window_RegisterCallback_ElementAdded(id, nullptr), STATUS_OK);
-    EXPECT_EQ(Tarvex_Window_RegisterCallback_ElementAdded(id + 1, nullptr),
-              STATUS_WINDOW_NOT_FOUND);
-    EXPECT_THAT(List(), testing::ElementsAre(id));
-}
 } // namespace

@@ -31,13 +31,4 @@ TEST_F(Updates, HoldThePictureBackUntilTheLastOneEnds)
     EXPECT_EQ(Tarvex_Element_RemoveAll(Id), STATUS_OK);
     EXPECT_EQ(CountLit(), 0);
 }
-
-TEST_F(Updates, MayBeOpenWhenTheirViewGoes)
-{
-    ASSERT_EQ(Begin(), STATUS_OK);
-    AddPoint(0, 0, 0);
-    EXPECT_EQ(Tarvex_Window_Delete(Id), STATUS_OK);
-    EXPECT_EQ(Begin(), STATUS_WINDOW_NOT_FOUND);
-    EXPECT_EQ(End(), STATUS_WINDOW_NOT_FOUND);
-}
 } // namespace

@@ -12,14 +12,18 @@ protected:
     }
 };
 
-TEST_F(AView, FillsItsPictureWithTheBackgroundExactly)
+TEST_F(AView, FillsItsPictureWithTheBackgroundExactlyAlsoWhileCovered)
 {
+    int32_t cover = TARVEX_NONE;
+    EXPECT_EQ(Tarvex_Window_Create(Host.Handle(), 1, 0, 0, Pixels, Pixels, &cover), STATUS_OK);
+    EXPECT_EQ(Tarvex_Window_SetBackgroundColor(cover, 200, 0, 0), STATUS_OK);
     for (const Picture::Color& color : {Picture::Color{255, 128, 0}, {127, 254, 253}, {0, 0, 0}})
     {
         EXPECT_EQ(Tarvex_Window_SetBackgroundColor(Id, color[0], color[1], color[2]), STATUS_OK);
         const auto isIt = [&](const Picture::Color& other) { return other == color; };
         EXPECT_EQ(TakePicture(Id).Count(isIt), Pixels * Pixels) << testing::PrintToString(color);
     }
+    EXPECT_EQ(Tarvex_Window_Delete(cover), STATUS_OK);
 }
 
 TEST_F(AView, IsCreatedAndResizedToFourPixelsAtLeast)
@@ -60,19 +64,6 @@ TEST_F(AView, TakesOnlyBoxesWithAnExtentOnEachAxis)
     {
         EXPECT_EQ(Call(Tarvex_Window_SetDrawSpace, flat), STATUS_TOO_SMALL);
         EXPECT_EQ(Read(Tarvex_Window_GetDrawSpace), least) << testing::PrintToString(flat);
-    }
-}
-
-TEST_F(AView, HasNoActiveElementUnlessOneWithHandlesIsChosen)
-{
-    const int32_t point = AddPoint(0, 0, 0);
-    for (const auto& [element, status] : {std::pair(TARVEX_NONE, STATUS_OK),
-                                          {-7, STATUS_OK},
-                                          {point, STATUS_OK},
-                                          {point + 1, STATUS_BAD_INDEX}})
-    {
-        EXPECT_EQ(Tarvex_Window_SetActiveElement(Id, element), status) << element;
-        EXPECT_EQ(Read(Tarvex_Window_GetActiveElement), Numbers{TARVEX_NONE}) << element;
     }
 }
 } // namespace

@@ -1,7 +1,7 @@
 // A 3D view whose newest element is read back from its actor: what is drawn, and where.
 #pragma once
 
-#include "frame/CWindowManager.h"
+#include "platform/Inside.h"
 #include "support/ViewFixture.h"
 
 #include <vtkActor.h>
@@ -20,12 +20,8 @@ protected:
     void AddNew(const Export& function, const Numbers& given)
     {
         Element = Add(function, given);
-        const auto find = [this](const CWindow& view)
-        {
-            Actor = view.GetRenderer()->GetActors()->GetLastActor();
-            return STATUS_OK;
-        };
-        CWindowManager::Instance->Call<CWindow>(Id, find);
+        Inside(Id, [this](const CWindow& view)
+               { Actor = view.GetRenderer()->GetActors()->GetLastActor(); });
     }
     void Set(const Export& function, const Numbers& given) const
     {
@@ -37,14 +33,40 @@ protected:
         EXPECT_EQ(Actor->GetVisibility(), Actor->GetUseBounds());
         return !Actor->GetVisibility();
     }
-    // The points of the first cell along its path, in host coordinates. The bounds that the camera
-    // goes by are those of these points.
-    std::vector<HostPoint> Outline() const
+    // All points as they are drawn, in host coordinates. The bounds that the camera goes by are
+    // those of these points.
+    std::vector<HostPoint> DrawnPoints() const { return OnScreen(Drawn()->GetPoints()); }
+    // Those of the first cell, along its path.
+    std::vector<HostPoint> Outline() const { return OnScreen(Drawn()->GetCell(0)->GetPoints()); }
+    static void ExpectNear(const std::vector<HostPoint>& points,
+                           const std::vector<HostPoint>& expected)
+    {
+        ASSERT_EQ(points.size(), expected.size());
+        for (size_t at = 0; at < expected.size(); ++at)
+        {
+            EXPECT_THAT(points[at], testing::Pointwise(testing::DoubleNear(1e-5), expected[at]))
+                << "point " << at;
+        }
+    }
+    void ExpectOutline(const std::vector<HostPoint>& expected) const
+    {
+        EXPECT_FALSE(IsHidden());
+        ExpectNear(Outline(), expected);
+    }
+
+    int32_t Element = TARVEX_NONE;
+    vtkActor* Actor = nullptr;
+
+private:
+    vtkPolyData* Drawn() const
     {
         auto* mapper = vtkPolyDataMapper::SafeDownCast(Actor->GetMapper());
         mapper->Update();
-        vtkPoints* points = mapper->GetInput()->GetCell(0)->GetPoints();
-        std::vector<HostPoint> outline;
+        return mapper->GetInput();
+    }
+    std::vector<HostPoint> OnScreen(vtkPoints* points) const
+    {
+        std::vector<HostPoint> drawn;
         vtkBoundingBox box;
         for (vtkIdType point = 0; point < points->GetNumberOfPoints(); ++point)
         {
@@ -52,26 +74,12 @@ protected:
             points->GetPoint(point, world);
             Actor->GetMatrix()->MultiplyPoint(world, world);
             box.AddPoint(world);
-            outline.push_back({world[0], -world[1], world[2]});
+            drawn.push_back({world[0], -world[1], world[2]});
         }
         double bounds[6];
         box.GetBounds(bounds);
         EXPECT_THAT(Numbers(Actor->GetBounds(), Actor->GetBounds() + 6),
                     testing::Pointwise(testing::DoubleNear(1e-5), bounds));
-        return outline;
+        return drawn;
     }
-    void ExpectOutline(const std::vector<HostPoint>& expected) const
-    {
-        EXPECT_FALSE(IsHidden());
-        const std::vector<HostPoint> outline = Outline();
-        ASSERT_EQ(outline.size(), expected.size());
-        for (size_t at = 0; at < expected.size(); ++at)
-        {
-            EXPECT_THAT(outline[at], testing::Pointwise(testing::DoubleNear(1e-5), expected[at]))
-                << "point " << at;
-        }
-    }
-
-    int32_t Element = TARVEX_NONE;
-    vtkActor* Actor = nullptr;
 };

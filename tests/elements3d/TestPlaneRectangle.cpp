@@ -55,6 +55,14 @@ TEST_F(ShapeView, PlaneFollowsItsBoxesAndKeepsThemWhileInvalid)
     EXPECT_TRUE(IsHidden());
     Set(Tarvex_Element_Plane_SetValue2, {3, 0, 0, 1});
     ExpectOutline(byDefault);
+    // A box of its own may not be too thin.
+    for (const Numbers& thin :
+         {Numbers{0, 0.0009, 0, 5, 0, 5}, {0, 5, 0, 0.0009, 0, 5}, {0, 5, 0, 5, 0, 0.0009}})
+    {
+        EXPECT_EQ(Call(Tarvex_Element_SetDrawSize_Plane, Element, thin), STATUS_TOO_SMALL);
+    }
+    EXPECT_EQ(Read(Tarvex_Element_GetDrawSize_Plane, Element), (Numbers{-10, 10, -10, 10, 0, 1}));
+    ExpectOutline(byDefault);
     // A box without end cannot be drawn, but the next one can.
     Set(Tarvex_Element_SetDrawSize_Plane, {-Infinity, 1, 0, 1, 0, 1});
     EXPECT_TRUE(IsHidden());

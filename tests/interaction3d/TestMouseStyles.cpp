@@ -1,9 +1,7 @@
-// What the mouse does to a 3D view: hover, handles, the drawing gestures, and hosts that do
-// anything while they hear of it.
+// What the mouse does to a 3D view: hover, handles, and hosts that do anything while they hear of
+// it.
 #include "TarvexExt.h"
 #include "elements3d/CElement_Draggable.h"
-#include "interaction3d/MyDefaultInteractorStyle.h"
-#include "interaction3d/MyDrawMouseInteractorStyle.h"
 #include "platform/Inside.h"
 #include "support/ViewFixture.h"
 
@@ -118,22 +116,16 @@ protected:
 
 TEST_F(MouseStyles, DragAHandleOfEachKindByAsMuchAsTheMouse)
 {
-    const auto addPolyhedron = [](int32_t view, int32_t* id)
-    {
-        const double x[] = {0, 1, 0};
-        const double y[] = {0, 0, 1};
-        const double z[] = {0, 0, 0};
-        return Tarvex_Element_Add_Polyhedron(view, 3, x, y, z, 0, 0, 1, 2, id);
-    };
     const struct
     {
         Export Add;
         Numbers Values;
         int32_t Handle;
-    } cases[] = {{Tarvex_Element_Add_Cube, {0.5, 0, 0, 2, 1, 2, 0, 1}, 1},
-                 {Tarvex_Element_Add_Cube, {0.5, 0, 0, 2, 1, 2, 30, 1}, 6},
-                 {Tarvex_Element_Add_Cylinder, {0, 0, -1, 0, 0, 1, 0.5}, 1},
-                 {+addPolyhedron, {}, 1}};
+    } cases[] = {
+        {Tarvex_Element_Add_Cube, {0.5, 0, 0, 2, 1, 2, 0, 1}, 1},
+        {Tarvex_Element_Add_Cube, {0.5, 0, 0, 2, 1, 2, 30, 1}, 6},
+        {Tarvex_Element_Add_Cylinder, {0, 0, -1, 0, 0, 1, 0.5}, 1},
+        {Tarvex_Element_Add_Polyhedron, {3, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 2}, 1}};
     for (const auto& way : cases)
     {
         SCOPED_TRACE(&way - cases);
@@ -325,27 +317,6 @@ TEST_F(MouseStyles, LetTheHostDoAnythingWhenAnElementWasDragged)
     }
 }
 
-TEST_F(MouseStyles, OfTwoViewsKeepTheirOwnElements)
-{
-    const int32_t first = AddActiveCube(0.5);
-    XResizeWindow(Host.Connection, Host.Native, 2 * Pixels, Pixels);
-    int32_t others = TARVEX_NONE;
-    ASSERT_EQ(Tarvex_Window_Create(Host.Handle(), 1, Pixels, 0, Pixels, Pixels, &others),
-              STATUS_OK);
-    const int32_t firsts = std::exchange(Id, others);
-    Tarvex_Window_RegisterCallback_ElementDragged(Id, Dragged);
-    const int32_t second = AddActiveCube(-0.5);
-    DragCube(second);
-    EXPECT_EQ(heard, Told(second));
-    EXPECT_GT(CubeX(second), -0.5);
-    Id = firsts;
-    EXPECT_EQ(CubeX(first), 0.5);
-    heard.clear();
-    DragCube(first);
-    EXPECT_EQ(heard, Told(first));
-    EXPECT_EQ(Tarvex_Window_Delete(others), STATUS_OK);
-}
-
 TEST_F(MouseStyles, WorkWhileAnotherThreadCalls)
 {
     const int32_t cube = AddActiveCube();
@@ -373,62 +344,23 @@ TEST_F(MouseStyles, WorkWhileAnotherThreadCalls)
     EXPECT_EQ(heard, Told(cube) + Told(cube));
 }
 
-TEST_F(MouseStyles, TurnPressesIntoDrawingGestures)
+TEST_F(MouseStyles, DragHandlesOnlyBetweenDrawingGestures)
 {
-    const int32_t cube = AddActive(Tarvex_Element_Add_Cube, {0, 0, 0, 2, 2, 1, 0, 0});
-    static std::string log;
-    const struct
+    const int32_t cube = AddActiveCube();
+    ASSERT_EQ(Tarvex_Window_SetDrawMode(Id, TARVEX_DRAW_POLYHEDRON), STATUS_OK);
+    DragCube(cube);
+    EXPECT_EQ(heard, Told(cube));
+    EXPECT_EQ(Read(Tarvex_Element_GetCount), Numbers{1});
+    const double x = CubeX(cube);
+    for (const Pixel& at : {Pixel{60, 140}, PixelOf(HandleAt(cube, 1)), Pixel{140, 150}})
     {
-        bool MultiClick;
-        const char* Mouse; // h: move to the other half of the cube, b: beside it, H: to the handle,
-                           // p and r: left down and up, e: a click of the right button
-        const char* Drawn; // Down, Move, Up, End, and g for a dragged handle
-    } cases[] = {
-        {false, "hphhrh", "DMMU"},   {false, "bphr", ""},         {false, "hpehr", "DE"},
-        {false, "hpbr", "DMU"},      {false, "Hphr", "g"},        {false, "hpHrhe", "DMUE"},
-        {true, "hprhpre", "DUMDUE"}, {true, "hprHpre", "DUMDUE"}, {true, "hprbpre", "DUMUE"}};
-    Inside(Id,
-           [](CWindow& view)
-           {
-               MyDrawMouseInteractorStyle* style = view.GetDrawStyle();
-               style->SetDownForwarder([](int32_t, double, double, double) { log += 'D'; });
-               style->SetMoveForwarder([](int32_t, double, double, double) { log += 'M'; });
-               style->SetUpForwarder([](int32_t, double, double, double) { log += 'U'; });
-               style->SetEndForwarder([](int32_t) { log += 'E'; });
-               style->SetMouseFlags(false, true, false);
-               view.GetInteractor()->SetInteractorStyle(style);
-           });
-    answer = [] { log += 'g'; };
-    for (const auto& way : cases)
-    {
-        SCOPED_TRACE(testing::Message() << way.MultiClick << " " << way.Mouse);
-        log.clear();
-        View().GetDrawStyle()->SetMultiClick(way.MultiClick);
-        int moves = 0;
-        for (const char* step = way.Mouse; *step; ++step)
-        {
-            const Pixel middle = PixelOf(HandleAt(cube, 1));
-            switch (*step)
-            {
-            case 'h':
-                MoveTo({middle.X + (++moves % 2 ? 12 : -12), middle.Y - 9});
-                break;
-            case 'b':
-                MoveTo({4, 4});
-                break;
-            case 'H':
-                MoveTo(middle);
-                break;
-            case 'e':
-                Click(3, true);
-                Click(3, false);
-                break;
-            default:
-                Click(1, *step == 'p');
-                break;
-            }
-        }
-        EXPECT_EQ(log, way.Drawn);
-        LookClosely();
+        MoveTo(at);
+        Click(1, true);
+        Click(1, false);
     }
+    Click(3, true);
+    Click(3, false);
+    EXPECT_EQ(Read(Tarvex_Element_Polyhedron_GetPointCount, cube + 1), Numbers{3});
+    EXPECT_EQ(heard, Told(cube));
+    EXPECT_EQ(CubeX(cube), x);
 }

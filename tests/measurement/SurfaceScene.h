@@ -12,6 +12,7 @@
 #include <tuple>
 #include <vector>
 
+#include <gtest/gtest.h>
 #include <vtkActorCollection.h>
 #include <vtkNew.h>
 #include <vtkRenderWindow.h>
@@ -68,6 +69,17 @@ int32_t SetValue(Surface& surface, const Samples& samples)
 {
     return std::apply([&](auto... values) { return surface.SetValue(values...); },
                       Arguments<Surface>(samples));
+}
+
+using Box = std::array<double, 6>;
+
+// Of a surface or a profile, as its view asks for them.
+template <class Measured>
+Box Bounds(Measured& element, bool widen)
+{
+    Box b{};
+    EXPECT_EQ(element.GetBounds(widen, &b[0], &b[1], &b[2], &b[3], &b[4], &b[5]), STATUS_OK);
+    return b;
 }
 
 class SurfaceScene

@@ -12,7 +12,6 @@
 namespace
 {
 using Segments = std::vector<std::array<vtkIdType, 2>>;
-using Box = std::array<double, 6>;
 
 Segments SegmentsOf(const CElementProfile& profile)
 {
@@ -27,13 +26,6 @@ Segments SegmentsOf(const CElementProfile& profile)
         segments.push_back({ids[0], ids[1]});
     }
     return segments;
-}
-
-Box BoundsOf(CElementProfile& profile, bool widen)
-{
-    Box b{};
-    EXPECT_EQ(profile.GetBounds(widen, &b[0], &b[1], &b[2], &b[3], &b[4], &b[5]), STATUS_OK);
-    return b;
 }
 
 // A profile at Y 1.75; no X for a uniform one.
@@ -86,8 +78,8 @@ TEST(Profiles, LieInTheirPlaneWithTheBoundsOfTheirValidSamples)
         EXPECT_EQ(free.Scene.GetActor()->GetBounds()[i], i < 2 ? 22.0 * i - 11.0 : drawn[i]);
     }
     // Flat ones are widened, lopsidedly, and a margin comes to it.
-    EXPECT_DOUBLE_EQ(BoundsOf(*Shown({}, std::vector<int16_t>(10, 4)).Profile, true)[4], 1.55);
+    EXPECT_DOUBLE_EQ(Bounds(*Shown({}, std::vector<int16_t>(10, 4)).Profile, true)[4], 1.55);
     // Uniform: one pitch beyond the last sample, missing ones at the ends included.
-    EXPECT_EQ(BoundsOf(*uniform.Profile, false), (Box{1.0, 11.0, 1.75, 1.75, -27.0, 23.0}));
-    EXPECT_EQ(BoundsOf(*free.Profile, false), (Box{-11.0, 11.0, 1.75, 1.75, -27.0, 23.0}));
+    EXPECT_EQ(Bounds(*uniform.Profile, false), (Box{1.0, 11.0, 1.75, 1.75, -27.0, 23.0}));
+    EXPECT_EQ(Bounds(*free.Profile, false), (Box{-11.0, 11.0, 1.75, 1.75, -27.0, 23.0}));
 }

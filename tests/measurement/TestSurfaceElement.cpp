@@ -5,19 +5,6 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-using Box = std::array<double, 6>;
-
-template <class Surface>
-Box Bounds(Surface& surface, bool widen)
-{
-    Box b{};
-    EXPECT_EQ(surface.GetBounds(widen, &b[0], &b[1], &b[2], &b[3], &b[4], &b[5]), STATUS_OK);
-    return b;
-}
-} // namespace
-
 TEST(Surface, HasBoundsOfWholeCellsAndAFlatOneIsWidened)
 {
     SurfaceScene scene;

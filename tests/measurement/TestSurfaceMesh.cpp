@@ -47,21 +47,6 @@ std::array<double, 4> OnlyQuad(const Samples& samples)
 }
 } // namespace
 
-TEST(SurfaceMesh, FindsIsolatedSamplesByTheirPlace)
-{
-    Samples samples = MakeFlat(4, 4);
-    samples.At(0, 2) = samples.At(2, 2) = samples.At(3, 2) = Missing;
-    samples.At(3, 1) = Missing;
-    EXPECT_EQ(Build(samples, true).Isolated, (std::vector<int32_t>{3, 9, 12, 13, 14, 15}));
-    samples.Heights.assign(16, Missing);
-    EXPECT_TRUE(Build(samples, true).Bounds.IsEmpty());
-    samples.At(3, 1) = 2;
-    EXPECT_TRUE(Build(samples, false).Bounds.IsEmpty());
-    const SurfaceMesh mesh = Build(samples, true);
-    EXPECT_EQ(mesh.Isolated, std::vector<int32_t>{7});
-    EXPECT_EQ(mesh.Bounds.Bounds, (std::array<double, 6>{2.5, 3.5, 0.5, 1.5, 2.0, 2.0}));
-}
-
 TEST(SurfaceMesh, GivesIsolatedFreeSamplesQuadsOfTheMeanCell)
 {
     using Quad = std::array<double, 4>;

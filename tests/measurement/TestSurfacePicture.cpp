@@ -104,10 +104,6 @@ void ExpectLikeStock(const Case& tested, const Samples& data)
     {
         EXPECT_EQ(own->GetBounds()[i], literal.Actor->GetBounds()[i]) << i;
     }
-    ASSERT_EQ(surface.Show(false), STATUS_OK);
-    EXPECT_EQ(scene.Render().Count(IsSurface), 0);
-    ASSERT_EQ(surface.Show(true), STATUS_OK);
-    EXPECT_EQ(scene.Render().CountDifferences(picture), 0);
 }
 } // namespace
 

@@ -1,8 +1,7 @@
-// What belongs to the host stays as it is: error handlers, OpenGL context, messages, threads.
+// What belongs to the host stays as it is: error handlers, OpenGL context, threads.
 #include <gtest/gtest.h>
 
 #include "TarvexExt.h"
-#include "platform/Inside.h"
 #include "support/Picture.h"
 #include "support/TestHost.h"
 #include "support/TestView.h"
@@ -10,7 +9,6 @@
 // After the others, whose names Xlib's macros would break.
 #include <GL/glx.h>
 #include <X11/Xlib.h>
-#include <X11/cursorfont.h>
 
 #include <array>
 #include <atomic>
@@ -68,45 +66,6 @@ TEST(HostState, OpenGLContextIsTheSameAfterEachCall)
     glXDestroyContext(host.Connection, context);
     TestView view(host.Handle());
     EXPECT_EQ(glXGetCurrentContext(), nullptr);
-}
-
-TEST(HostState, VtkMessagesAreKeptFromStandardErrorForTheLastError)
-{
-    TestHost host;
-    TestView view(host.Handle());
-    testing::internal::CaptureStderr();
-    Inside(view.Id, [](CWindow&) { vtkGenericWarningMacro("a complaint of VTK's"); });
-    view.Render();
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    std::array<char, 500> text = {};
-    EXPECT_EQ(TarvexExt_GetLastError(text.data(), static_cast<int32_t>(text.size())), STATUS_OK);
-    EXPECT_NE(std::string(text.data()).find("a complaint of VTK's"), std::string::npos);
-}
-
-TEST(HostState, CursorOfAViewChangesWithoutAnotherCall)
-{
-    TestHost host;
-    TestView view(host.Handle());
-    Settle();
-    const Window sample =
-        XCreateSimpleWindow(host.Connection, host.Native, 300, 300, 50, 50, 0, 0, 0);
-    XMapWindow(host.Connection, sample);
-    for (const auto& [shape, glyph] :
-         {std::pair{VTK_CURSOR_SIZEALL, XC_fleur}, std::pair{VTK_CURSOR_ARROW, XC_top_left_arrow}})
-    {
-        XDefineCursor(host.Connection, sample, XCreateFontCursor(host.Connection, glyph));
-        host.MoveMouse(sample, 20, 20);
-        const std::vector<unsigned long> expected = host.TakeCursor();
-        host.MoveMouse(NativeOf(view.Id), 50, 50);
-        EXPECT_NE(host.TakeCursor(), expected);
-        Inside(view.Id, [shape = shape](CWindow& window)
-               { window.GetRenderWindow()->SetCurrentCursor(shape); });
-        for (int wait = 0; wait < 100 && host.TakeCursor() != expected; ++wait)
-        {
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
-        EXPECT_EQ(host.TakeCursor(), expected);
-    }
 }
 
 TEST(Threads, MayCallWhileAnotherPumps)

@@ -31,30 +31,6 @@ void CheckUnusable(void* parent)
 }
 } // namespace
 
-TEST(Views, SeveralInOneAndInTwoParentsShowTheirPicturesThere)
-{
-    TestHost host;
-    TestHost other;
-    TestView first(host.Handle(), 0, 0);
-    TestView second(host.Handle(), 220, 100);
-    TestView third(other.Handle(), 10, 10);
-    ASSERT_EQ(host.Children().size(), 2U);
-    XRaiseWindow(host.Connection, host.Native);
-    XSync(host.Connection, False);
-    EXPECT_EQ(first.Render(), STATUS_OK);
-    EXPECT_EQ(second.Render(), STATUS_OK);
-    const int red = TakePicture(first.Id).Count(IsRed);
-    EXPECT_GT(red, 500);
-    for (const NativeWindow child : host.Children())
-    {
-        EXPECT_EQ(host.TakeScreen(child).Count(IsRed), red);
-    }
-    // Each leaves its parent alone.
-    EXPECT_EQ(first.Delete(), STATUS_OK);
-    EXPECT_EQ(host.Children().size(), 1U);
-    EXPECT_EQ(TakePicture(third.Id).Count(IsRed), red);
-}
-
 TEST(Views, WithoutParentIsATopLevelWindowThatItsUserMayClose)
 {
     TestHost host;

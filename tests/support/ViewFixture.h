@@ -63,8 +63,7 @@ struct Export
 {
     template <class... Rest>
     Export(int32_t (*function)(int32_t, Rest...))
-        : Address(reinterpret_cast<void*>(function)),
-          HasIntegers(((std::is_same_v<Rest, int32_t*> || std::is_same_v<Rest, uint32_t*>) || ...))
+        : HasIntegers(((std::is_same_v<Rest, int32_t*> || std::is_same_v<Rest, uint32_t*>) || ...))
     {
         Perform = [function](int32_t view, const Numbers& given, Numbers& outputs)
         {
@@ -80,7 +79,6 @@ struct Export
         };
     }
 
-    void* Address;
     bool HasIntegers; // among its outputs
     // Appends what the function hands out and returns the status.
     std::function<int32_t(int32_t view, const Numbers& given, Numbers& outputs)> Perform;

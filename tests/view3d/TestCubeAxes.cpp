@@ -1,5 +1,5 @@
 // What the scale frame shows: its Y labels against the places where they stand.
-#include "frame/CWindowManager.h"
+#include "platform/Inside.h"
 #include "support/ViewFixture.h"
 #include "view3d/CCubeAxesActor.h"
 
@@ -13,11 +13,6 @@ using CubeAxes = ViewFixture;
 TEST_F(CubeAxes, LabelsReadTheHostYOfTheirPlaceAfterEachChangeOfBoundsInEveryFlyMode)
 {
     CCubeAxesActor* actor = nullptr;
-    const auto find = [&](const CWindow& view)
-    {
-        actor = view.GetCubeAxes();
-        return STATUS_OK;
-    };
     // Crossing zero, one-sided, large, small, and back again on the same actor.
     const double cases[][3] = {
         {-5, 25, 0.01}, {-3.5, -3, 0.001}, {-2.5e6, 1.5e6, 1e3}, {0, 1e-3, 1e-6}, {-5, 25, 0.01}};
@@ -30,7 +25,7 @@ TEST_F(CubeAxes, LabelsReadTheHostYOfTheirPlaceAfterEachChangeOfBoundsInEveryFly
         ASSERT_EQ(Tarvex_Window_Cube_FlyMode(Id, round % 5), STATUS_OK);
         Tarvex_Window_Camera_SetViewDirection(Id, -0.5, round % 3 - 0.7, -0.4, 0, 0, 1);
         ASSERT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
-        CWindowManager::Instance->Call<CWindow>(Id, find);
+        Inside(Id, [&](const CWindow& view) { actor = view.GetCubeAxes(); });
         int count = 0;
         for (CInvertedAxisActor* axis : actor->GetDrawnYAxes())
         {

@@ -1,6 +1,6 @@
 // The text of the picked coordinates.
-#include "frame/CWindowManager.h"
 #include "frame/Forwarders.h"
+#include "platform/Inside.h"
 #include "support/ViewFixture.h"
 
 #include <vtkTextActor.h>
@@ -15,12 +15,8 @@ protected:
     std::string Text() const
     {
         std::string text;
-        const auto read = [&](const CWindow& view)
-        {
-            text = view.GetPickTextActor() ? view.GetPickTextActor()->GetInput() : "none";
-            return STATUS_OK;
-        };
-        EXPECT_EQ(CWindowManager::Instance->Call<CWindow>(Id, read), STATUS_OK);
+        Inside(Id, [&](const CWindow& view)
+               { text = view.GetPickTextActor() ? view.GetPickTextActor()->GetInput() : "none"; });
         return text;
     }
 };

@@ -1,11 +1,8 @@
 // How often each call draws the view: a host that adds a thousand elements pays for each picture,
 // and one that reads values back must know which reads draw.
 #include "TarvexExt.h"
-#include "frame/CWindowManager.h"
+#include "platform/Inside.h"
 #include "support/ViewFixture.h"
-
-#include <vtkCallbackCommand.h>
-#include <vtkNew.h>
 
 namespace
 {
@@ -23,45 +20,26 @@ int32_t AddSurface(int32_t view, int32_t rows, int32_t* id)
     return Tarvex_Element_Add_SurfaceUniform(view, heights, nullptr, 2, rows, 1, 1, 1, 0, 0, 0, 1,
                                              id);
 }
-int32_t AddPolyhedron(int32_t view, int32_t* id)
-{
-    const double x[] = {0, 3, 0};
-    const double y[] = {0, 0, 3};
-    return Tarvex_Element_Add_Polyhedron(view, 3, x, y, y, 0, 0, 1, 1, id);
-}
 int32_t SetSurface(int32_t view, int32_t id, int32_t rows)
 {
     return Tarvex_Element_SurfaceUniform_SetValue(view, id, heights, nullptr, 2, rows, 1, 1, 1, 0,
                                                   0, 0);
 }
-int32_t AddFreeSurface(int32_t view, int32_t* id)
+// Positions, heights and intensities of a surface of 2 by 2, its grid; without a valid sample.
+const Numbers cloud = {1, 2, 3, 4, 1, 2, 3, 4, 1, 2, 3, 4, 0, 0, 0, 0, 2, 2, 1, 1, 1};
+const Numbers emptyCloud = {1,      2, 3, 4, 1, 2, 3, 4, -32768, -32768, -32768,
+                            -32768, 0, 0, 0, 0, 2, 2, 1, 1,      1};
+Numbers With(double element, Numbers given)
 {
-    return Tarvex_Element_Add_SurfaceNonUniform(view, heights, heights, heights, nullptr, 2, 2, 1,
-                                                1, 1, 0, 0, 0, 1, id);
-}
-// Without a valid sample for a distance of 3.
-int32_t SetFreeSurface(int32_t view, int32_t id, int32_t from)
-{
-    const int16_t z[] = {1, 2, 3, -32768, -32768, -32768, -32768};
-    return Tarvex_Element_SurfaceNonUniform_SetValue(view, id, heights, heights, z + from, nullptr,
-                                                     2, 2, 1, 1, 1, 0, 0, 0);
+    given.insert(given.begin(), element);
+    return given;
 }
 
 using Renders = ViewFixture;
 
 TEST_F(Renders, AreAsManyAsTheCallsPromise)
 {
-    int count = 0;
-    vtkNew<vtkCallbackCommand> counter;
-    counter->SetClientData(&count);
-    counter->SetCallback([](vtkObject*, unsigned long, void* target, void*)
-                         { ++*static_cast<int*>(target); });
-    const auto observe = [&](CWindow& view) -> int32_t
-    {
-        view.GetRenderWindow()->AddObserver(vtkCommand::EndEvent, counter);
-        return STATUS_OK;
-    };
-    CWindowManager::Instance->Call<CWindow>(Id, observe);
+    RenderCounter renders(Id);
     // The elements: two points, a line, a cube, a cylinder, a polyhedron, two surfaces, two
     // profiles.
     const Step steps[] = {
@@ -74,9 +52,7 @@ TEST_F(Renders, AreAsManyAsTheCallsPromise)
         {0, STATUS_OK, Tarvex_Window_Camera_GetPosition},
         {1, STATUS_OK, Tarvex_Window_Camera_SetPosition},
         {1, STATUS_OK, Tarvex_Window_Camera_SetPredefinedView, {1}},
-        {0, STATUS_OUT_OF_RANGE, Tarvex_Window_Camera_SetPredefinedView, {6}},
         {1, STATUS_OK, Tarvex_Window_Camera_SetViewDirection, {1, 0, 0, 0, 0, 1}},
-        {0, STATUS_ZERO_VECTOR, Tarvex_Window_Camera_SetViewDirection, {0, 0, 0, 0, 0, 1}},
         {1, STATUS_OK, Tarvex_Window_Camera_SetZoom},
         {1, STATUS_OK, Tarvex_Element_Add_Point},
         {1, STATUS_OK, Tarvex_Element_Add_Point, {NaN}},
@@ -85,10 +61,8 @@ TEST_F(Renders, AreAsManyAsTheCallsPromise)
         {1, STATUS_OK, Tarvex_Element_SetColor, {0}},
         {1, STATUS_OK, Tarvex_Element_GetColor, {0}},
         {1, STATUS_OK, Tarvex_Element_SetSize, {0}},
-        {0, STATUS_TOO_SMALL, Tarvex_Element_SetSize, {0, 0}},
         {1, STATUS_OK, Tarvex_Element_GetSize, {0}},
         {1, STATUS_OK, Tarvex_Element_SetTransparency, {0, 0.5}},
-        {0, STATUS_OUT_OF_RANGE, Tarvex_Element_SetTransparency, {0, 2}},
         {1, STATUS_OK, Tarvex_Element_GetTransparency, {0}},
         {1, STATUS_OK, Tarvex_Element_SetLighting, {0, 1, 0, 0, 1}},
         {1, STATUS_OK, Tarvex_Element_GetLighting, {0}},
@@ -104,12 +78,14 @@ TEST_F(Renders, AreAsManyAsTheCallsPromise)
         {1, STATUS_OUT_OF_RANGE, Tarvex_Element_SetDrawLimit_Line, {2}},
         {1, STATUS_OK, Tarvex_Element_Line_SetValue, {2, 0, 0, 0, 0, 0, 0}},
         {1, STATUS_INVALID_VALUES, Tarvex_Element_GetLength_Line, {2}},
-        {0, STATUS_BAD_INDEX, Tarvex_Element_GetLength_Line, {9}},
         {1, STATUS_OK, Tarvex_Element_Add_Cube},
         {1, STATUS_OK, Tarvex_Element_Cube_SetValue, {3, 0, 0, 0, 0, 0, 0, 0}},
         {1, STATUS_OK, Tarvex_Element_Add_Cylinder, {0, 0, 0, 1, 1, 1, 1}},
         {1, STATUS_TOO_SMALL, Tarvex_Element_Cylinder_SetValue2, {4, 0, 0, 0, 0, 0, 0, 1, 1}},
-        {1, STATUS_OK, AddPolyhedron},
+        {1,
+         STATUS_OK,
+         Tarvex_Element_Add_Polyhedron,
+         {3, 0, 3, 0, 0, 0, 0, 3, 0, 0, 0, 0, 0, 0, 0, 1, 1}},
         {0, STATUS_OK, Tarvex_Element_Polyhedron_GetPointCount, {5}},
         {1, STATUS_OK, Tarvex_Element_Polyhedron_SetHeight, {5, 3}},
         {1, STATUS_TOO_SMALL, Tarvex_Element_Polyhedron_SetHeight, {5, 0}},
@@ -129,9 +105,9 @@ TEST_F(Renders, AreAsManyAsTheCallsPromise)
         {0, STATUS_OK, Tarvex_Element_GetPalette_SurfaceUniform, {6}},
         {1, STATUS_BAD_POINT, Tarvex_Element_ZScalingPalette_SurfaceUniform, {6, 1, 0, 0, 0}},
         {0, STATUS_OK, Tarvex_Element_GetZScalingPalette_SurfaceUniform, {6}},
-        {1, STATUS_OK, AddFreeSurface},
-        {1, STATUS_OK, SetFreeSurface, {7, 0}},
-        {0, STATUS_BAD_COUNT, SetFreeSurface, {7, 3}},
+        {1, STATUS_OK, Tarvex_Element_Add_SurfaceNonUniform, cloud},
+        {1, STATUS_OK, Tarvex_Element_SurfaceNonUniform_SetValue, With(7, cloud)},
+        {0, STATUS_BAD_COUNT, Tarvex_Element_SurfaceNonUniform_SetValue, With(7, emptyCloud)},
         {0, STATUS_OK, Tarvex_Element3D_SurfaceNonUniform_GetRepresentationMode, {7}},
         {1, STATUS_OK, Tarvex_Element3D_SurfaceNonUniform_SetRepresentationMode, {7, 0}},
         {1, STATUS_OK, Tarvex_Element_SetPalette_SurfaceNonUniform, {7, 1}},
@@ -139,17 +115,13 @@ TEST_F(Renders, AreAsManyAsTheCallsPromise)
         {1, STATUS_OK, Tarvex_Element_ZScalingPalette_SurfaceNonUniform, {7, 0, 0, 1, 9}},
         {0, STATUS_OK, Tarvex_Element_GetZScalingPalette_SurfaceNonUniform, {7}},
         {1, STATUS_OK, Tarvex_Element_Add_ProfileUniform, {1, 2, 3, 4, 4, 1, 1, 0, 0, 0}},
-        {0, STATUS_TOO_SMALL, Tarvex_Element_Add_ProfileUniform, {1, 2, 3, 4, 1, 1, 1, 0, 0, 0}},
         {1, STATUS_OK, Tarvex_Element_Add_ProfileNonUniform, {1, 2, 3, 4, 1, 2, 3, 4, 4}},
         {1, STATUS_OK, Tarvex_Window_SetDrawMode, {TARVEX_DRAW_CUBE}},
         {1, STATUS_OK, Tarvex_Window_SetDrawMode, {TARVEX_DRAW_POLYGON}},
         {0, STATUS_OK, Tarvex_Window_SetDrawMode, {TARVEX_DRAW_NO_SHAPE}},
-        {0, STATUS_OUT_OF_RANGE, Tarvex_Window_SetDrawMode, {8}},
         {0, STATUS_OK, Tarvex_Window_GetDrawMode},
         {1, STATUS_OK, Tarvex_Window_SetDrawMode, {TARVEX_DRAW_NONE}},
         {0, STATUS_OK, Tarvex_Window_ScalarBar_Remove},
-        {0, STATUS_NOT_READY, Tarvex_Window_ScalarBar_ShowHide},
-        {0, STATUS_WRONG_TYPE, Tarvex_Window_ScalarBar_Add, {0}},
         {1, STATUS_OK, Tarvex_Window_ScalarBar_Add, {6}},
         {1, STATUS_OK, Tarvex_Window_ScalarBar_Add, {6}},
         {1, STATUS_OK, Tarvex_Window_ScalarBar_ShowHide, {0}},
@@ -165,9 +137,9 @@ TEST_F(Renders, AreAsManyAsTheCallsPromise)
     for (const Step& step : steps)
     {
         SCOPED_TRACE(testing::Message() << "step " << &step - steps);
-        count = 0;
+        renders.Count = 0;
         EXPECT_EQ(Call(step.Function, step.Given), step.Status);
-        EXPECT_EQ(count, step.Renders);
+        EXPECT_EQ(renders.Count, step.Renders);
     }
 }
 } // namespace
