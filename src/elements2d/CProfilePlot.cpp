@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 vtkStandardNewMacro(CProfilePlot);
 
@@ -47,10 +48,12 @@ void CProfilePlot::CopyPoints(const vtkTable& table)
     auto* x = vtkFloatArray::FastDownCast(columns.GetColumn(0));
     auto* y = vtkFloatArray::FastDownCast(columns.GetColumn(1));
     const vtkIdType count = x->GetNumberOfValues();
-    // The base class holds and deletes Points and BadPoints by bare pointers.
+    // The base class holds Points and BadPoints by bare pointers, with a reference to each.
     if (!Points)
     {
-        Points = vtkPoints2D::New();
+        const vtkNew<vtkPoints2D> points;
+        points->Register(nullptr);
+        Points = points;
     }
     Points->SetNumberOfPoints(count);
     auto* places = static_cast<PlotPlace*>(Points->GetVoidPointer(0));
@@ -69,14 +72,12 @@ void CProfilePlot::CopyPoints(const vtkTable& table)
         before = places[row].X;
     }
     Ordered = ordered && finite;
-    if (BadPoints)
-    {
-        BadPoints->Delete();
-        BadPoints = nullptr;
-    }
+    vtkSmartPointer<vtkIdTypeArray>::Take(std::exchange(BadPoints, nullptr));
     if (!finite)
     {
-        BadPoints = vtkIdTypeArray::New();
+        const vtkNew<vtkIdTypeArray> gaps;
+        gaps->Register(nullptr);
+        BadPoints = gaps;
         for (vtkIdType row = 0; row < count; ++row)
         {
             if (!std::isfinite(places[row].X) || !std::isfinite(places[row].Y))

@@ -114,3 +114,14 @@ int32_t CViewBase::CopyImage(uint8_t* rgb, int32_t capacity, int32_t* width, int
             return Platform::CopyPicture(RenderWindow, rgb) ? STATUS_OK : STATUS_NOT_READY;
         });
 }
+
+int32_t CViewBase::GetDrawMode(int32_t* mode)
+{
+    *mode = TARVEX_DRAW_NONE;
+    return WhenReady(
+        [&]() -> int32_t
+        {
+            *mode = DrawMode;
+            return STATUS_OK;
+        });
+}

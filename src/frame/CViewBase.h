@@ -29,6 +29,8 @@ public:
     int32_t EndUpdate();
     int32_t RegisterCallback_ElementAdded(Tarvex_ElementAddedCallback callback);
     int32_t RegisterCallback_ElementDragged(Tarvex_ElementDraggedCallback callback);
+    // One of TARVEX_DRAW_...
+    int32_t GetDrawMode(int32_t* mode);
     int32_t CopyImage(uint8_t* rgb, int32_t capacity, int32_t* width, int32_t* height);
 
     const int32_t Id;

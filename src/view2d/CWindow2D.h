@@ -59,7 +59,6 @@ public:
     void DragActiveElement(int32_t handle, double x, double y, bool finished);
 
     // Draw modes (CWindow2DDraw.cpp)
-    int32_t GetDrawMode(int32_t* mode);
     int32_t SetDrawMode(uint32_t mode);
     void DrawDown(double x, double y);
     void DrawMove(double x, double y);

@@ -71,17 +71,6 @@ const DrawnShape* FindShape(int32_t mode)
 }
 } // namespace
 
-int32_t CWindow2D::GetDrawMode(int32_t* mode)
-{
-    *mode = TARVEX_DRAW_NONE;
-    return WhenReady(
-        [&]() -> int32_t
-        {
-            *mode = DrawMode;
-            return STATUS_OK;
-        });
-}
-
 int32_t CWindow2D::SetDrawMode(uint32_t mode)
 {
     return WhenReady(

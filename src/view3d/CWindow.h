@@ -68,7 +68,6 @@ public:
 
     // Draw modes (CWindowDraw.cpp)
     int32_t SetDrawMode(uint32_t mode);
-    int32_t GetDrawMode(int32_t* mode);
     // The mouse at a position in VTK's world, (0, 0, 0) for none; nothing happens in the modes that
     // draw nothing. The last two may finish an element: the host hears of it, and may have deleted
     // this view when the call returns.

@@ -112,17 +112,6 @@ int32_t SetDrawnLook(CElement_Base& element, double transparency)
 }
 } // namespace
 
-int32_t CWindow::GetDrawMode(int32_t* mode)
-{
-    *mode = TARVEX_DRAW_NONE;
-    return WhenReady(
-        [&]() -> int32_t
-        {
-            *mode = DrawMode;
-            return STATUS_OK;
-        });
-}
-
 int32_t CWindow::SetDrawMode(uint32_t mode)
 {
     return WhenReady(
