@@ -30,10 +30,13 @@ std::set<std::pair<int, int>> Cover(const std::vector<PlotPlace>& line)
                 for (const auto& [start, end] : ends)
                 {
                     const double length = end - start;
-                    const double enter = (-std::copysign(0.5, length) - start) / length;
-                    const double leave = (std::copysign(0.5, length) - start) / length;
-                    from = length != 0.0 ? std::max(from, enter) : from;
-                    to = length != 0.0 ? std::min(to, leave) : std::abs(start) < 0.5 ? to : -1.0;
+                    if (length == 0.0)
+                    {
+                        to = std::abs(start) < 0.5 ? to : -1.0;
+                        continue;
+                    }
+                    from = std::max(from, (-std::copysign(0.5, length) - start) / length);
+                    to = std::min(to, (std::copysign(0.5, length) - start) / length);
                 }
                 if (from < to)
                 {
