@@ -1448,7 +1448,8 @@ TARVEX_API int32_t Tarvex_Element_Polyhedron_GetValue(int32_t windowId, int32_t 
  * @retval STATUS_WRONG_TYPE The element is not a polyhedron.
  * @retval STATUS_NULL_ARGUMENT An array is null; nothing changes.
  * @retval STATUS_TOO_SMALL Fewer than 3 points, a height below 1e-9, or the squared length of the
- *     axis is below 1e-12; nothing is stored.
+ *     axis is below 1e-12; nothing is stored, but for the last two an invalid polyhedron counts as
+ *     valid from here on, still unseen.
  * @retval STATUS_OUT_OF_RANGE More than 250 points; nothing changes.
  */
 TARVEX_API int32_t Tarvex_Element_Polyhedron_SetValue(int32_t windowId, int32_t elementId,

@@ -154,6 +154,10 @@ void CElement_Image2D::LeaveView()
 int32_t CElement_Image2D::GetValue(uint8_t* pixels, double* scaleX, double* scaleY, double* scaleZ,
                                    double* offsetX, double* offsetY, double* offsetZ)
 {
+    if (!pixels)
+    {
+        return STATUS_NULL_ARGUMENT;
+    }
     std::memcpy(pixels, Pixels.data(), Pixels.size());
     *scaleX = Form.Scale[0];
     *scaleY = Form.Scale[1];

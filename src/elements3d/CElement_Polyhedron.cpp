@@ -207,6 +207,8 @@ int32_t CElement_Polyhedron::SetValue(int32_t count, const double* x, const doub
     if (status == STATUS_OK)
     {
         status = Judge(prism, false, valid);
+        // Refused for its height or axis alone: an invalid one counts as valid again, still unseen.
+        Valid |= status != STATUS_OK;
     }
     return status == STATUS_OK ? Store(std::move(prism), valid) : status;
 }

@@ -55,6 +55,7 @@ void CElement_Surface<Samples>::SetRange(SurfaceMapper& mapper, const Data& data
     {
         mapper.SetScalarRange(FixedMin, FixedMax);
     }
+    mapper.TellRange();
 }
 
 template <class Samples>
@@ -114,6 +115,7 @@ int32_t CElement_Surface<Samples>::ShowIntensity(bool show)
         if (Mapper)
         {
             Mapper->SetLookupTable(table);
+            static_cast<SurfaceMapper&>(*Mapper).TellRange();
         }
         return status;
     }
@@ -136,6 +138,7 @@ int32_t CElement_Surface<Samples>::ApplyPalette(int32_t palette)
         return STATUS_NOT_READY;
     }
     Mapper->SetLookupTable(MakeLookupTable(palette));
+    static_cast<SurfaceMapper&>(*Mapper).TellRange();
     return STATUS_OK;
 }
 

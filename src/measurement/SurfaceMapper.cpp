@@ -115,17 +115,22 @@ void SurfaceMapper::BuildBufferObjects(vtkRenderer* renderer, vtkActor*)
     this->VBOBuildTime.Modified();
 }
 
-// The texture that the table is drawn with. The table learns the range here, as from any mapper:
-// a scalar bar tells it.
+void SurfaceMapper::TellRange()
+{
+    const double* range = this->ScalarRange;
+    if (std::isfinite(range[0]) && std::isfinite(range[1]) && range[0] <= range[1])
+    {
+        this->GetLookupTable()->SetRange(this->ScalarRange);
+    }
+}
+
+// The texture that the table is drawn with.
 void SurfaceMapper::BuildColors()
 {
     vtkScalarsToColors* table = this->GetLookupTable();
     table->Build();
     const double* range = this->ScalarRange;
-    if (std::isfinite(range[0]) && std::isfinite(range[1]) && range[0] <= range[1])
-    {
-        table->SetRange(this->ScalarRange);
-    }
+    TellRange();
     // The base class makes the texture together with coordinates for the scalars. Coordinates are
     // to it the sign that the surface is coloured by a texture, so it is given one scalar.
     vtkNew<vtkDoubleArray> scalar;

@@ -72,10 +72,15 @@ void CWindow2D::FitAxes(const double bounds[4], bool keepAspect)
             Low = Center - half;
             High = Center + half;
         }
+        // Values so far out that a double cannot hold their margins have no range.
+        bool IsUsable() const { return GetSpan() > 0.0; }
         void GiveTo(vtkAxis* axis) const
         {
-            axis->SetUnscaledMinimum(Low);
-            axis->SetUnscaledMaximum(High);
+            if (IsUsable())
+            {
+                axis->SetUnscaledMinimum(Low);
+                axis->SetUnscaledMaximum(High);
+            }
         }
         double Center;
         double Low;
@@ -86,12 +91,11 @@ void CWindow2D::FitAxes(const double bounds[4], bool keepAspect)
     // The plot area as it was drawn last.
     const int width = Chart->GetPoint2()[0] - Chart->GetPoint1()[0];
     const int height = Chart->GetPoint2()[1] - Chart->GetPoint1()[1];
-    // Values so far out that a double cannot hold their margins have no range to be shown in.
-    if (width <= 0 || height <= 0 || !(x.GetSpan() > 0.0) || !(y.GetSpan() > 0.0))
+    if (height <= 0)
     {
         return;
     }
-    if (keepAspect)
+    if (keepAspect && width > 0 && x.IsUsable() && y.IsUsable())
     {
         const double dataAspect = x.GetSpan() / y.GetSpan();
         const double pixelAspect = static_cast<double>(width) / height;

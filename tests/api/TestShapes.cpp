@@ -247,5 +247,13 @@ TEST_F(Shapes, PolyhedronRefusesWhatHasNoShape)
     EXPECT_FALSE(IsValid(element));
     EXPECT_EQ(Call(Tarvex_Element_Polyhedron_SetValue, element, good), STATUS_OK);
     EXPECT_TRUE(IsValid(element));
+    // Refused for its height alone, it counts as valid and stays unseen.
+    EXPECT_EQ(Tarvex_Element_Polyhedron_ChangePoint(Id, element, 0, NaN, 0, 0), STATUS_OK);
+    Numbers flat = good;
+    flat.back() = 0;
+    EXPECT_EQ(Call(Tarvex_Element_Polyhedron_SetValue, element, flat), STATUS_TOO_SMALL);
+    EXPECT_TRUE(IsValid(element));
+    EXPECT_EQ(Tarvex_Window_SetActiveElement(Id, element), STATUS_OK);
+    EXPECT_EQ(CountLit(), 0);
 }
 } // namespace

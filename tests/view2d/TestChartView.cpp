@@ -66,12 +66,18 @@ TEST_F(ChartViews, FitTheirAxesToTheElements)
     EXPECT_EQ(Scale(true), STATUS_OK);
     const double half = 55 * height / width;
     EXPECT_THAT(Ranges(), Near({-2, 108, 9 - half, 9 + half}));
-    // Values whose margins are lost leave the axes.
-    const Numbers before = Ranges();
+    // Values whose margins are lost leave their axis.
     EXPECT_EQ(Tarvex_Element2D_RemoveAll(Id), STATUS_OK);
-    Add(Tarvex_Element2D_Add_Point, {1e300, 1e300});
+    Add(Tarvex_Element2D_Add_Point, {1e300, 5});
     EXPECT_EQ(Scale(true), STATUS_OK);
-    EXPECT_EQ(Ranges(), before);
+    EXPECT_THAT(Ranges(), Near({-2, 108, 4, 6}));
+    // Without room for a plot in X, for when there is some again.
+    EXPECT_EQ(Tarvex_Window2D_UpdateSize(Id, 0, 0, 30, Pixels), STATUS_OK);
+    EXPECT_EQ(Tarvex_Window2D_SetBackgroundColor(Id, 0, 0, 0), STATUS_OK);
+    EXPECT_EQ(Tarvex_Element2D_RemoveAll(Id), STATUS_OK);
+    Add(Tarvex_Element2D_Add_Point, {3, 4});
+    EXPECT_EQ(Scale(true), STATUS_OK);
+    EXPECT_THAT(Ranges(), Near({2, 4, 3, 5}));
 }
 
 TEST_F(ChartViews, HaveTwoLayouts)

@@ -72,6 +72,16 @@ TEST_F(ScalarBarTable, IsTheNewOneAfterSomeCallsOnly)
     }
 }
 
+TEST_F(ScalarBarTable, ShowsTheRangeOfASurfaceThatWasNeverInSight)
+{
+    const int32_t far = Add(Tarvex_Element_Add_SurfaceUniform,
+                            {4, 5, 6, 7, 0, 0, 0, 0, 2, 2, 1, 1, 1, 1e6, 0, 0, 1});
+    EXPECT_EQ(Tarvex_Window_ScalarBar_Add(Id, far), STATUS_OK);
+    EXPECT_EQ(BarTable()->GetRange()[0], 4.0);
+    EXPECT_EQ(Tarvex_Element_SetPalette_SurfaceUniform(Id, far, 2), STATUS_OK);
+    EXPECT_EQ(BarTable()->GetRange()[1], 7.0);
+}
+
 TEST_F(ScalarBarTable, GoesWithOneSurfaceUntilItIsRemoved)
 {
     EXPECT_EQ(Tarvex_Window_ScalarBar_Add(Id, AddPoint(0, 0, 0)), STATUS_WRONG_TYPE);
