@@ -2482,6 +2482,7 @@ TARVEX_API int32_t Tarvex_Element2D_Image_GetImageSize(int32_t windowId, int32_t
  * @param[out] scaleX, scaleY, scaleZ, offsetX, offsetY, offsetZ Chart units; 0 on failure.
  * @retval STATUS_BAD_INDEX No element has this id.
  * @retval STATUS_WRONG_TYPE The element is not an image.
+ * @retval STATUS_NULL_ARGUMENT pixels is null.
  */
 TARVEX_API int32_t Tarvex_Element2D_Image_GetValue(int32_t windowId, int32_t elementId,
                                                    uint8_t* pixels, double* scaleX, double* scaleY,

@@ -46,8 +46,8 @@ public:
 
     void SetMesh(SurfaceMesh mesh);
     const SurfaceMesh& GetMesh() const { return Mesh; }
-    // The lookup table takes the range, which a scalar bar shows: other mappers tell it only when they
-    // are drawn, and a surface may be out of sight.
+    // The lookup table takes the range, which a scalar bar shows: other mappers tell it only when
+    // they are drawn, and a surface may be out of sight.
     void TellRange();
     void SetLevels(SurfaceLevels levels);
 
