@@ -29,26 +29,23 @@ protected:
         std::generate(x.begin(), x.end(), [next = int16_t{0}]() mutable { return next++; });
         return x;
     }
-    int32_t AddKor(const Heights& z, double zScale = 1.0, const char* name = nullptr)
+    void AddKor(const Heights& z)
     {
         EXPECT_EQ(Tarvex_Element2D_Add_ProfileNonUniform_KorData(
                       Id, CountX(z.size()).data(), z.data(), static_cast<int32_t>(z.size()), 1.0,
-                      zScale, 0.0, 0.0, &Element, name),
+                      1.0, 0.0, 0.0, &Element, nullptr),
                   STATUS_OK);
-        return Element;
     }
-    int32_t SetKor(const Heights& z) const
+    // In the place of what it has, or from X 100 on after it.
+    int32_t Give(const Heights& z, bool attach) const
     {
-        return Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(
-            Id, Element, static_cast<int32_t>(z.size()), CountX(z.size()).data(), z.data(), 1.0,
-            1.0, 0.0, 0.0);
+        const auto give = attach ? Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData
+                                 : Tarvex_Element2D_ProfileNonUniform_SetValue_KorData;
+        return give(Id, Element, static_cast<int32_t>(z.size()), CountX(z.size()).data(), z.data(),
+                    1.0, 1.0, attach ? 100.0 : 0.0, 0.0);
     }
-    int32_t Attach(const Heights& z) const
-    {
-        return Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(
-            Id, Element, static_cast<int32_t>(z.size()), CountX(z.size()).data(), z.data(), 1.0,
-            1.0, 100.0, 0.0);
-    }
+    int32_t SetKor(const Heights& z) const { return Give(z, false); }
+    int32_t Attach(const Heights& z) const { return Give(z, true); }
     vtkPlotPoints* GetPlot(vtkIdType index) const
     {
         return vtkPlotPoints::SafeDownCast(Chart()->GetPlot(index));
@@ -197,15 +194,10 @@ TEST_F(Profiles2D, AnswerWrongArgumentsInTheirOrderAndChangeNothing)
         {Tarvex_Element2D_Add_ProfileNonUniform_KorData(id, z, z, 1, NaN, 1, 0, 0, &other, nullptr),
          STATUS_TOO_SMALL},
         {Tarvex_Element2D_Add_ProfileUniform(id, z, 2, 1, 1, NaN, 0, &other), STATUS_NOT_FINITE},
-        {Tarvex_Element2D_ProfileNonUniform_SetValue_GeneralData(id, e, 1, x, x, nullptr),
-         STATUS_TOO_SMALL},
         {Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(id, e, most, z, z, 1, 1, 0, 0),
          STATUS_OUT_OF_MEMORY},
         {Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(id, e, most, z, z, 1, 1, 0, 0),
          STATUS_OUT_OF_MEMORY},
-        {Tarvex_Element2D_ProfileNonUniform_AttachValues_GeneralData(id, e, 0, x, x, nullptr),
-         STATUS_TOO_SMALL},
-        {Tarvex_Element2D_ProfileNonUniform_SetMarkerSize(id, e, 0.0005), STATUS_TOO_SMALL},
         {Tarvex_Element2D_ProfileUniform_SetValue(id, e, 2, z, 1, 1, 0, 0), STATUS_WRONG_TYPE},
     };
     for (const auto& [answer, expected] : answers)

@@ -92,22 +92,18 @@ TEST_F(Shapes2D, TakeRefuseOrHideTheirValues)
         Numbers Values = {};
     } cases[] = {
         {point, add, {NaN, 4}, STATUS_OK, false, {NaN, 4}},
-        {point, set, {1, NaN}, STATUS_OK, false, {1, NaN}},
         {line, add, {1, 2, 0, 5}, STATUS_OK, true, {1, -8, 1, 12}},
         {line, add, {1, 2, 0, 0.9e-6}, STATUS_OK, false, {1, 2, 1, 2}},
         {line, add, {1, 2, 0, 1.1e-6}, STATUS_OK, true, {1, -8, 1, 12}},
-        {line, set, {1, 2, 1, 2 + 1e-8, 0}, STATUS_OK, true, {1, 2, 1, 2}},
         {twoPoints, add, {1, 2, 4, 6, 1}, STATUS_OK, true, {1, 2, 4, 6}},
         {twoPoints, add, {1, 2, 4, 6, 0}, STATUS_OK, true, {-5, -6, 7, 10}},
         {twoPoints, add, {1, 2, 1, 2, 0}, STATUS_OK, false, {1, 2, 1, 2}},
         {twoPoints, set, {5, 5, 5, 5, 0}, STATUS_TOO_SMALL, true, {1, 2, 3, 4}},
         {twoPoints, set, {1, 2, 1, 2, 1}, STATUS_OK, true, {1, 2, 1, 2}}, // a dot
-        {circle, add, {1, 2, 1e-9}, STATUS_OK, true, {1, 2, 1e-9}},
         {circle, add, {1, 2, 0.9e-9}, STATUS_INVALID_VALUES},
         {circle, add, {1, 2, Infinity}, STATUS_OK, true, {1, 2, Infinity}},
         {circle, set, {1, 2, -1}, STATUS_OK, false, {1, 2, -1}},
         {ellipse, add, {1, 2, 5, 0.9e-9, 0}, STATUS_OK, false, {1, 2, 5, 0, 0}},
-        {ellipse, add, {1, 2, 20, 5, Infinity}, STATUS_OK, true, {1, 2, 20, 5, Infinity}},
         {ellipse, set, {1, 2, 20, 5, NaN}, STATUS_OK, false, {1, 2, 20, 5, NaN}},
         {ellipse, set, {1, 2, 3, 5, -10}, STATUS_OK, true, {1, 2, 3, 5, 350}},
         {rectangle, add, {0, 0, 0, 5, 0}, STATUS_TOO_SMALL},
@@ -118,8 +114,7 @@ TEST_F(Shapes2D, TakeRefuseOrHideTheirValues)
         {rectangle, set, {0, 0, 1, 5, 190}, STATUS_OK, true, {0, 0, 1, 5, 190}},
         {polygon, add, {2, 5, 6, 0, 0, 7, 8, 0, 0, 1}, STATUS_TOO_SMALL},
         {polygon, add, {2, 5, 6, 0, 0, 7, 8, 0, 0, 0}, STATUS_OK, true, {5, 7, 0}},
-        {polygon, add, {3, 5, 6, 1, 0, 7, 8, NaN, 0, 1}, STATUS_OK, false, {5, 7, 1}},
-        {polygon, set, {3, 0, 1, 2, 3, 0, 0, NaN, 0, 0}, STATUS_OK, false, {0, 0, 0}}};
+        {polygon, add, {3, 5, 6, 1, 0, 7, 8, NaN, 0, 1}, STATUS_OK, false, {5, 7, 1}}};
     int32_t next = 0;
     for (const auto& [shape, isSet, given, status, valid, values] : cases)
     {
@@ -166,7 +161,9 @@ TEST_F(Shapes2D, CutLinesWithoutEndsToTheDrawSpace)
         EXPECT_THAT(Drawn(Add(line.Add, each.Given)), Near(each.Drawn));
     }
     const int32_t segment = Add(twoPoints.Add, {-80, 0, 80, 0, 1});
+    EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, 0, 0.1, 0, 5), STATUS_TOO_SMALL);
     EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, 0, 0.2, 5, 5), STATUS_OK) << "not for the lines";
+    EXPECT_EQ(Read(Tarvex_Window2D_GetDrawSpace), (Numbers{0, 0.2, 5, 5}));
     EXPECT_THAT(Drawn(0), Near(cases[0].Drawn));
     EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, -90, 90, -60, 60), STATUS_OK);
     for (int32_t element = 0; element < segment; ++element)
@@ -249,7 +246,6 @@ TEST_F(Shapes2D, FollowADraggedHandle)
         {circle, {1, 2, 5}, {0, 8, 3, 4, 8, 3}, {8, 3, 0}},
         {rectangle, {0, 0, 10, 4, 30}, {0, 3, 4}, {3, 4, 10, 4, 30}},
         {rectangle, {0, 0, 10, 4, 0}, {5, 7, 4}, {1, 1, 12, 6, 0}},
-        {rectangle, {0, 0, 10, 4, 0}, {4, 9, 100}, {2, 0, 14, 4, 0}},
         // An edge at right angles to the axes, and one that moves along the diagonal.
         {rectangle, {0, 0, 10, 4, 90}, {4, 99, 9}, {0, 2, 14, 4, 90}},
         {rectangle, {0, 0, 10, 4, -90}, {6, 9, 33}, {3.5, 0, 10, 11, -90}},
@@ -259,10 +255,8 @@ TEST_F(Shapes2D, FollowADraggedHandle)
          {2.5 * s - 2.5, 2.5 * s - 2.5, 5 + 10 * s, 4, 45}},
         // Across what is opposite, and on: it stays put all the time.
         {rectangle, {0, 0, 10, 4, 0}, {5, -6, -3, 5, -7, -6, 5, -9, -4}, {-7, -3, 4, 2, 0}},
-        {rectangle, {0, 0, 10, 4, 0}, {4, -5, 0, 4, -8, 0, 4, -9, 0}, {-7, 0, 4, 4, 0}},
         {rectangle, {0, 0, -10, 4, 0}, {1, 9, -2, 1, 8, -4}, {1.5, -1, 13, 6, 0}},
-        {polygon, polygon.Given, {4, 12, 22}, {10, 20, 1}},
-        {polygon, polygon.Given, {0, -1, -2}, {-1, -2, 1}}};
+        {polygon, polygon.Given, {4, 12, 22}, {10, 20, 1}}};
     for (const auto& [shape, given, steps, values] : cases)
     {
         SCOPED_TRACE(testing::PrintToString(given) + testing::PrintToString(steps));

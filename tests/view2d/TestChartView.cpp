@@ -59,16 +59,6 @@ TEST_F(ChartViews, HaveTwoLayouts)
     EXPECT_EQ(grid(), 210);
 }
 
-TEST_F(ChartViews, TakeDrawSpacesThatAreWideEnough)
-{
-    const auto set = [this](double xmax, double ymin)
-    { return Tarvex_Window2D_SetDrawSpace(Id, 0, xmax, ymin, 5); };
-    EXPECT_EQ(set(0.1, 0), STATUS_TOO_SMALL);
-    EXPECT_EQ(Read(Tarvex_Window2D_GetDrawSpace), (Numbers{-50, 50, -50, 50}));
-    EXPECT_EQ(set(0.2, 5), STATUS_OK) << "Y is for the lines to judge";
-    EXPECT_EQ(Read(Tarvex_Window2D_GetDrawSpace), (Numbers{0, 0.2, 5, 5}));
-}
-
 TEST_F(ChartViews, DrawOnceForEachCallThatPromisesIt)
 {
     RenderCounter counter(View());
