@@ -1,21 +1,13 @@
 #include "LiteralImage.h"
-#include "TarvexExt.h"
 #include "elements2d/CImagePlot.h"
-#include "frame/CWindowManager.h"
 #include "frame/FailingAllocations.h"
-#include "support/TestHost.h"
-
-#include <gtest/gtest.h>
+#include "view2d/InsideChart.h"
 
 #include <cmath>
-
-#include <vtkAxis.h>
 
 namespace
 {
 using Bytes = std::vector<uint8_t>;
-constexpr int width = 400; // of the view
-constexpr int height = 300;
 
 // Neighbours differ.
 Bytes MakePixels(int columns, int rows)
@@ -28,54 +20,39 @@ Bytes MakePixels(int columns, int rows)
     return pixels;
 }
 
-class Image2D : public testing::Test
+class Image2D : public InsideChart
 {
 protected:
-    Image2D()
-    {
-        EXPECT_EQ(Tarvex_Window2D_Create(Host.Handle(), 1, 0, 0, width, height, &Id), STATUS_OK);
-        CWindowManager::Instance->Call<CWindow2D>(Id, [this](CWindow2D& view)
-                                                  { return (View = &view, int32_t{STATUS_OK}); });
-    }
-    ~Image2D() override { Tarvex_Window2D_Delete(Id); }
+    Image2D() : InsideChart(400, 300) { Tarvex_Window2D_SetBackgroundColor(Id, 0, 0, 0); }
 
-    void Add(const Bytes& pixels, int columns, int rows, double x = 0, double y = 0,
-             double scale = 1, uint32_t palette = 0)
+    void AddImage(const Bytes& pixels, int columns, int rows, double x = 0, double y = 0,
+                  double scale = 1, uint32_t palette = 0)
     {
         ASSERT_EQ(Tarvex_Element2D_Add_ImageByte(Id, pixels.data(), columns, rows, scale, scale, 2,
                                                  x, y, 3, palette, &Image),
                   STATUS_OK);
     }
-    vtkAxis* GetAxis(int side) const { return View->GetChart()->GetAxis(side); }
     void SetRange(const double range[4]) const
     {
-        GetAxis(vtkAxis::BOTTOM)->SetUnscaledRange(range[0], range[1]);
-        GetAxis(vtkAxis::LEFT)->SetUnscaledRange(range[2], range[3]);
+        Axis(vtkAxis::BOTTOM)->SetUnscaledRange(range[0], range[1]);
+        Axis(vtkAxis::LEFT)->SetUnscaledRange(range[2], range[3]);
     }
     Picture Draw() const
     {
-        constexpr int size = width * height * 3;
-        Picture picture{width, height, Bytes(size)};
-        Tarvex_Window2D_SetBackgroundColor(Id, 0, 0, 0);
-        EXPECT_EQ(TarvexExt_Window2D_CopyImage(Id, picture.Pixels.data(), size, &picture.Width,
-                                               &picture.Height),
-                  STATUS_OK);
-        return picture;
+        Render();
+        return Look();
     }
     // The pixel, from the lower left corner, where a value lies.
     double Locate(int side, double value) const
     {
-        vtkAxis* axis = GetAxis(side);
+        vtkAxis* axis = Axis(side);
         const int direction = side == vtkAxis::BOTTOM ? 0 : 1;
         const double first = axis->GetPoint1()[direction];
         return first + (axis->GetPoint2()[direction] - first) * (value - axis->GetMinimum()) /
                            (axis->GetMaximum() - axis->GetMinimum());
     }
 
-    TestHost Host{width, height};
-    int32_t Id = -1;
     int32_t Image = -1;
-    CWindow2D* View = nullptr;
 };
 } // namespace
 
@@ -99,10 +76,10 @@ TEST_F(Image2D, IsDrawnPixelByPixelLikeTheStockPlotInEachPalette)
                                 {-50.17, 60.31, 30.03, 140.77}}; // partly outside
     for (const auto& range : ranges)
     {
-        Add(pixels, 150, 90, 0, 0, 1, 1);
+        AddImage(pixels, 150, 90, 0, 0, 1, 1);
         SetRange(range);
         const Picture picture = Draw();
-        LiteralImage stock(*View);
+        LiteralImage stock(View());
         stock.SetValue(pixels.data(), 150, 90, 1);
         stock.Refresh();
         EXPECT_EQ(picture.CountDifferences(Draw()), 0) << range[0];
@@ -127,17 +104,17 @@ TEST_F(Image2D, LiesWhereTheAxesSayAlsoFarFromZeroAndBeyondTheSizeOfTextures)
         const double column = std::floor(((range[0] + range[1]) / 2 - x) / scale);
         const double row = std::floor(((range[2] + range[3]) / 2 - y) / scale);
         pixels[static_cast<size_t>((rows - 1 - row) * columns + column)] = 170;
-        Add(pixels, columns, rows, x, y, scale);
+        AddImage(pixels, columns, rows, x, y, scale);
         SetRange(range);
         const Picture picture = Draw();
         const auto mark = picture.Centre([](const Picture::Color& color)
                                          { return color[0] > 200 && color[1] < 40; });
         EXPECT_NEAR(mark[0], Locate(vtkAxis::BOTTOM, x + (column + 0.5) * scale), 1.0);
-        EXPECT_NEAR(height - mark[1], Locate(vtkAxis::LEFT, y + (row + 0.5) * scale), 1.5);
+        EXPECT_NEAR(picture.Height - mark[1], Locate(vtkAxis::LEFT, y + (row + 0.5) * scale), 1.5);
         const auto isRest = [](const Picture::Color& color) { return color[2] > 250 && !color[1]; };
         EXPECT_GT(picture.Count(isRest), 9000);
         // The mouse finds the corner pixel, in the plot's own, shifted numbers.
-        vtkPlot* plot = View->GetChart()->GetPlot(0);
+        vtkPlot* plot = Chart()->GetPlot(0);
         const vtkRectd shift = plot->GetShiftScale();
         const vtkVector2f point(static_cast<float>((x + scale / 2 + shift[0]) * shift[2]),
                                 static_cast<float>((y + scale / 2 + shift[1]) * shift[3]));
@@ -155,11 +132,11 @@ TEST_F(Image2D, LeavesNothingBehindWhenItIsHiddenOrRemovedOrGetsAnotherPalette)
     SetRange(range);
     const Picture empty = Draw();
     const Bytes pixels = MakePixels(4, 4);
-    Add(pixels, 4, 4);
+    AddImage(pixels, 4, 4);
     const Picture shown = Draw();
     EXPECT_GT(shown.CountDifferences(empty), 9000);
     Tarvex_Element2D_Show(Id, Image, 0);
-    Add(pixels, 4, 4);
+    AddImage(pixels, 4, 4);
     EXPECT_EQ(Draw().CountDifferences(empty), 0) << "hidden, and stays so";
     Tarvex_Element2D_Show(Id, Image, 1);
     EXPECT_EQ(Draw().CountDifferences(shown), 0);
@@ -167,7 +144,7 @@ TEST_F(Image2D, LeavesNothingBehindWhenItIsHiddenOrRemovedOrGetsAnotherPalette)
     const Picture changed = Draw();
     Tarvex_Element2D_Remove(Id, Image);
     EXPECT_EQ(Draw().CountDifferences(empty), 0);
-    Add(pixels, 4, 4, 0, 0, 1, TARVEX_PALETTE_RED);
+    AddImage(pixels, 4, 4, 0, 0, 1, TARVEX_PALETTE_RED);
     EXPECT_EQ(Draw().CountDifferences(changed), 0);
 
     // One colour: the one of the time when the palette was chosen.
@@ -213,7 +190,7 @@ TEST_F(Image2D, ReducesShortsToBytes)
 TEST_F(Image2D, IsTheOnlyOneAndKeepsItsStateWhenAChangeFails)
 {
     const Bytes pixels = MakePixels(9, 8);
-    Add(pixels, 4, 3, 10, 20, 0.5);
+    AddImage(pixels, 4, 3, 10, 20, 0.5);
     const Picture before = Draw();
     const struct
     {
@@ -235,9 +212,7 @@ TEST_F(Image2D, IsTheOnlyOneAndKeepsItsStateWhenAChangeFails)
     {
         // What has been there so far is still there.
         EXPECT_EQ(Draw().CountDifferences(before), 0);
-        double box[4];
-        View->FindElement(0)->GetBounds(box, box + 1, box + 2, box + 3);
-        EXPECT_EQ(std::vector<double>(box, box + 4), (std::vector<double>{10, 12, 20, 21.5}));
+        EXPECT_EQ(Bounds(0), (Numbers{10, 12, 20, 21.5}));
         FailAllocation(place);
         EXPECT_EQ(Tarvex_Element2D_Image_SetValueByte(Id, 0, given, columns, rows, x, 1, z, 10, 20,
                                                       0, palette),
@@ -249,15 +224,11 @@ TEST_F(Image2D, IsTheOnlyOneAndKeepsItsStateWhenAChangeFails)
         StopFailing();
         EXPECT_EQ(Image, status == STATUS_OK ? 0 : -1);
     }
-    int32_t palette = 0;
-    double size = 0;
     EXPECT_EQ(Tarvex_Element2D_SetPalette_Image(Id, 0, 7), STATUS_OUT_OF_RANGE);
-    Tarvex_Element2D_GetPalette_Image(Id, 0, &palette);
-    EXPECT_EQ(palette, 3);
+    EXPECT_EQ(Read(Tarvex_Element2D_GetPalette_Image, 0), Numbers{3});
     Tarvex_Element2D_SetSize(Id, 0, 4.0);
-    EXPECT_EQ(Tarvex_Element2D_GetSize(Id, 0, &size), STATUS_WRONG_TYPE);
-    EXPECT_EQ(size, 4.0);
+    EXPECT_EQ(Read(Tarvex_Element2D_GetSize, 0, STATUS_WRONG_TYPE), Numbers{4});
     Tarvex_Element2D_RemoveAll(Id);
-    Add(pixels, 4, 3);
+    AddImage(pixels, 4, 3);
     EXPECT_EQ(Image, 1);
 }

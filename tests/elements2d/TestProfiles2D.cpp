@@ -2,50 +2,26 @@
 // plots give.
 #include "LiteralChartProfile.h"
 #include "Tarvex.h"
-#include "TarvexExt.h"
-#include "frame/CWindowManager.h"
 #include "frame/FailingAllocations.h"
-#include "support/Picture.h"
-#include "support/TestHost.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/TestView.h"
+#include "view2d/InsideChart.h"
 
 #include <cmath>
-#include <limits>
 
-#include <vtkChartHistogram2D.h>
-#include <vtkFloatArray.h>
 #include <vtkPlotPoints.h>
 #include <vtkTable.h>
 
 namespace
 {
 constexpr int16_t Gap = TARVEX_INVALID_VALUE;
-constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 using Heights = std::vector<int16_t>;
 using testing::ElementsAre;
 
-class Profiles2D : public testing::Test
+class Profiles2D : public InsideChart
 {
 protected:
-    Profiles2D()
-    {
-        EXPECT_EQ(Tarvex_Window2D_Create(Host.Handle(), 1, 0, 0, 400, 300, &Id), STATUS_OK);
-        Do([this](CWindow2D& view) { Chart = view.GetChart(); });
-    }
-    ~Profiles2D() override { Tarvex_Window2D_Delete(Id); }
+    Profiles2D() : InsideChart(400, 300) {}
 
-    template <class Action>
-    void Do(Action&& action) const
-    {
-        CWindowManager::Instance->Call<CWindow2D>(Id,
-                                                  [&](CWindow2D& view) -> int32_t
-                                                  {
-                                                      action(view);
-                                                      return STATUS_OK;
-                                                  });
-    }
     // X counts from 0.
     static Heights CountX(size_t count)
     {
@@ -53,36 +29,33 @@ protected:
         std::generate(x.begin(), x.end(), [next = int16_t{0}]() mutable { return next++; });
         return x;
     }
-    int32_t AddKor(const Heights& z, double zScale = 1.0, const char* name = nullptr)
+    void AddKor(const Heights& z)
     {
         EXPECT_EQ(Tarvex_Element2D_Add_ProfileNonUniform_KorData(
                       Id, CountX(z.size()).data(), z.data(), static_cast<int32_t>(z.size()), 1.0,
-                      zScale, 0.0, 0.0, &Element, name),
+                      1.0, 0.0, 0.0, &Element, nullptr),
                   STATUS_OK);
-        return Element;
     }
-    int32_t SetKor(const Heights& z) const
+    // In the place of what it has, or from X 100 on after it.
+    int32_t Give(const Heights& z, bool attach) const
     {
-        return Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(
-            Id, Element, static_cast<int32_t>(z.size()), CountX(z.size()).data(), z.data(), 1.0,
-            1.0, 0.0, 0.0);
+        const auto give = attach ? Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData
+                                 : Tarvex_Element2D_ProfileNonUniform_SetValue_KorData;
+        return give(Id, Element, static_cast<int32_t>(z.size()), CountX(z.size()).data(), z.data(),
+                    1.0, 1.0, attach ? 100.0 : 0.0, 0.0);
     }
-    int32_t Attach(const Heights& z) const
-    {
-        return Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(
-            Id, Element, static_cast<int32_t>(z.size()), CountX(z.size()).data(), z.data(), 1.0,
-            1.0, 100.0, 0.0);
-    }
+    int32_t SetKor(const Heights& z) const { return Give(z, false); }
+    int32_t Attach(const Heights& z) const { return Give(z, true); }
     vtkPlotPoints* GetPlot(vtkIdType index) const
     {
-        return vtkPlotPoints::SafeDownCast(Chart->GetPlot(index));
+        return vtkPlotPoints::SafeDownCast(Chart()->GetPlot(index));
     }
     // For each plot the number of its rows; negative where it has crosses. The first plot of the
     // chart is that of the image.
     std::vector<int> Rows() const
     {
         std::vector<int> rows;
-        for (vtkIdType index = 1; index < Chart->GetNumberOfPlots(); ++index)
+        for (vtkIdType index = 1; index < Chart()->GetNumberOfPlots(); ++index)
         {
             vtkPlotPoints* plot = GetPlot(index);
             const auto count = static_cast<int>(plot->GetInput()->GetNumberOfRows());
@@ -92,12 +65,11 @@ protected:
     }
     struct Values
     {
-        std::vector<double> X;
-        std::vector<double> Y;
+        Numbers X;
+        Numbers Y;
         std::vector<uint8_t> Valid;
-        std::array<double, 4> Box;
     };
-    Values Read() const
+    Values ReadProfile() const
     {
         Values values;
         int32_t count = -1;
@@ -108,31 +80,8 @@ protected:
         EXPECT_EQ(Tarvex_Element2D_ProfileNonUniform_GetValue(Id, Element, values.X.data(),
                                                               values.Y.data(), values.Valid.data()),
                   STATUS_OK);
-        Do(
-            [&](CWindow2D& view)
-            {
-                auto& [xmin, xmax, ymin, ymax] = values.Box;
-                view.FindElement(Element)->GetBounds(&xmin, &xmax, &ymin, &ymax);
-            });
         return values;
     }
-    void Render() const
-    {
-        Do([](CWindow2D& view) { view.GetRenderWindow()->Render(); });
-    }
-    Picture Look() const
-    {
-        Picture picture;
-        TarvexExt_Window2D_CopyImage(Id, nullptr, 0, &picture.Width, &picture.Height);
-        const int32_t size = 3 * picture.Width * picture.Height;
-        picture.Pixels.resize(static_cast<size_t>(size));
-        EXPECT_EQ(TarvexExt_Window2D_CopyImage(Id, picture.Pixels.data(), size, &picture.Width,
-                                               &picture.Height),
-                  STATUS_OK);
-        return picture;
-    }
-    static bool IsRed(const Picture::Color& color) { return color == Picture::Color{255, 0, 0}; }
-
     // Red pixels without a red one beside them in the other picture.
     static int CountFar(const Picture& picture, const Picture& other)
     {
@@ -151,10 +100,7 @@ protected:
         return far;
     }
 
-    TestHost Host{400, 300};
-    int32_t Id = TARVEX_NONE;
     int32_t Element = TARVEX_NONE;
-    vtkChartHistogram2D* Chart = nullptr;
 };
 } // namespace
 
@@ -173,7 +119,7 @@ TEST_F(Profiles2D, HaveAPlotForEachRunOfValidSamples)
     {
         EXPECT_EQ(SetKor(z), STATUS_OK);
         EXPECT_EQ(Rows(), rows);
-        EXPECT_EQ(Read().X.size(), z.size());
+        EXPECT_EQ(ReadProfile().X.size(), z.size());
     }
 }
 
@@ -191,11 +137,11 @@ TEST_F(Profiles2D, GoOnFromTheirLastSample)
     AddKor({1, Gap});
     EXPECT_EQ(Attach({-5}), STATUS_OK);
     EXPECT_EQ(Rows(), (std::vector<int>{-1, -1}));
-    const Values values = Read();
+    const Values values = ReadProfile();
     EXPECT_THAT(values.X, ElementsAre(0, 1, 100));
     EXPECT_THAT(values.Y, ElementsAre(1, 0, -5));
     EXPECT_THAT(values.Valid, ElementsAre(1, 0, 1));
-    EXPECT_THAT(values.Box, ElementsAre(0, 100, -5, 1));
+    EXPECT_THAT(Bounds(Element), ElementsAre(0, 100, -5, 1));
 }
 
 TEST_F(Profiles2D, KeepDoublesAsGivenAndDrawOnlyWhatAFloatHolds)
@@ -210,16 +156,16 @@ TEST_F(Profiles2D, KeepDoublesAsGivenAndDrawOnlyWhatAFloatHolds)
     };
     ASSERT_EQ(add(valid, 5, "X Axis"), STATUS_OK);
     EXPECT_EQ(Rows(), std::vector<int>{-4});
-    Values values = Read();
+    Values values = ReadProfile();
     EXPECT_THAT(values.X, ElementsAre(0, 1, 2, 3, 4)); // the first is not valid
     EXPECT_THAT(values.Y, ElementsAre(0, testing::NanSensitiveDoubleEq(NaN), 2, 1e39, -4));
     EXPECT_THAT(values.Valid, ElementsAre(0, 1, 1, 1, 1));
-    EXPECT_THAT(values.Box, ElementsAre(2, 4, -4, 1e39));
+    EXPECT_THAT(Bounds(Element), ElementsAre(2, 4, -4, 1e39));
 
     EXPECT_EQ(
         Tarvex_Element2D_ProfileNonUniform_AttachValues_GeneralData(Id, Element, 1, x, y, valid),
         STATUS_OK);
-    EXPECT_EQ(Read().X.back(), 5); // not the first of all
+    EXPECT_EQ(ReadProfile().X.back(), 5); // not the first of all
     EXPECT_EQ(add(nullptr, 1, std::string(256, 'n').c_str()), STATUS_OK);
     EXPECT_STREQ(GetPlot(2)->GetInput()->GetColumnName(1), "Non-uniform spaced profile 1");
     EXPECT_EQ(add(nullptr, 1, std::string(255, 'n').c_str()), STATUS_OK);
@@ -248,15 +194,10 @@ TEST_F(Profiles2D, AnswerWrongArgumentsInTheirOrderAndChangeNothing)
         {Tarvex_Element2D_Add_ProfileNonUniform_KorData(id, z, z, 1, NaN, 1, 0, 0, &other, nullptr),
          STATUS_TOO_SMALL},
         {Tarvex_Element2D_Add_ProfileUniform(id, z, 2, 1, 1, NaN, 0, &other), STATUS_NOT_FINITE},
-        {Tarvex_Element2D_ProfileNonUniform_SetValue_GeneralData(id, e, 1, x, x, nullptr),
-         STATUS_TOO_SMALL},
         {Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(id, e, most, z, z, 1, 1, 0, 0),
          STATUS_OUT_OF_MEMORY},
         {Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(id, e, most, z, z, 1, 1, 0, 0),
          STATUS_OUT_OF_MEMORY},
-        {Tarvex_Element2D_ProfileNonUniform_AttachValues_GeneralData(id, e, 0, x, x, nullptr),
-         STATUS_TOO_SMALL},
-        {Tarvex_Element2D_ProfileNonUniform_SetMarkerSize(id, e, 0.0005), STATUS_TOO_SMALL},
         {Tarvex_Element2D_ProfileUniform_SetValue(id, e, 2, z, 1, 1, 0, 0), STATUS_WRONG_TYPE},
     };
     for (const auto& [answer, expected] : answers)
@@ -264,7 +205,7 @@ TEST_F(Profiles2D, AnswerWrongArgumentsInTheirOrderAndChangeNothing)
         EXPECT_EQ(answer, expected) << &answer - &answers[0].first;
     }
     EXPECT_EQ(Rows(), std::vector<int>{3});
-    EXPECT_THAT(Read().Y, ElementsAre(1, 2, 3));
+    EXPECT_THAT(ReadProfile().Y, ElementsAre(1, 2, 3));
     ASSERT_EQ(Tarvex_Element2D_Add_ProfileUniform(id, z, 2, 1, 1, 0, 0, &other), STATUS_OK);
     EXPECT_EQ(Tarvex_Element2D_ProfileUniform_SetValue(id, other, 2, gaps, 1, 1, 0, 0), STATUS_OK);
     EXPECT_EQ(Tarvex_Element2D_ProfileUniform_SetValue(id, other, 2, z, 1, 1, 0, 0),
@@ -318,7 +259,7 @@ TEST_F(Profiles2D, LookAsStockPlotsDo)
             Render();
             EXPECT_EQ(Look().Count(IsRed), 0);
             {
-                LiteralChartProfile stock(Chart);
+                LiteralChartProfile stock(Chart());
                 stock.Replace(x, z, 0.01, 0.001, offset);
                 Render();
                 Render();
@@ -372,7 +313,7 @@ TEST_F(Profiles2D, StayAsTheyWereWhenMemoryRunsOut)
         do
         {
             EXPECT_EQ(Rows(), (std::vector<int>{2, 2})) << place;
-            EXPECT_THAT(Read().Y, ElementsAre(1, 2, 0, 4, 5));
+            EXPECT_THAT(ReadProfile().Y, ElementsAre(1, 2, 0, 4, 5));
             Render();
             EXPECT_EQ(Look().CountDifferences(before), 0);
             const Heights x = CountX(more.size());

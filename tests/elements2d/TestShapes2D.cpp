@@ -1,19 +1,14 @@
 // The six shapes of a chart: which values they take, what of them is seen, which one is active, and
 // what dragging its handles does.
 #include "elements2d/CElement_Draggable2D.h"
-#include "frame/CWindowManager.h"
 #include "frame/FailingAllocations.h"
 #include "support/TestView.h"
-#include "support/ViewFixture.h"
+#include "view2d/InsideChart.h"
 
-#include <vtkChartHistogram2D.h>
 #include <vtkPlotPoints.h>
 
 namespace
 {
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
 struct Kind
 {
     Kind(const Export& add, const Export& set, const Export& get, const Numbers& given)
@@ -41,25 +36,9 @@ const Kind rectangle(Tarvex_Element2D_Add_Rectangle, Tarvex_Element2D_Rectangle_
 const Kind polygon(Tarvex_Element2D_Add_Polygon, Tarvex_Element2D_Polygon_SetValue,
                    Tarvex_Element2D_Polygon_GetValue, {4, 0, 4, 4, 0, 0, 0, 4, 4, 1});
 
-class Shapes2D : public ChartFixture
+class Shapes2D : public InsideChart
 {
 protected:
-    CWindow2D& View() const
-    {
-        CWindow2D* found = nullptr;
-        const auto find = [&](CWindow2D& view) -> int32_t
-        {
-            found = &view;
-            return STATUS_OK;
-        };
-        CWindowManager::Instance->Call<CWindow2D>(Id, find);
-        return *found;
-    }
-    vtkPlot* TopPlot(int below = 0) const
-    {
-        vtkChart* chart = View().GetChart();
-        return chart->GetPlot(chart->GetNumberOfPlots() - 1 - below);
-    }
     int32_t AddShape(const Kind& kind) const { return Add(kind.Add, kind.Given); }
     // The points of the outline as they are drawn.
     Numbers Drawn(int32_t element) const
@@ -112,24 +91,20 @@ TEST_F(Shapes2D, TakeRefuseOrHideTheirValues)
         bool Valid = true;
         Numbers Values = {};
     } cases[] = {
-        {point, add, {nan, 4}, STATUS_OK, false, {nan, 4}},
-        {point, set, {1, nan}, STATUS_OK, false, {1, nan}},
+        {point, add, {NaN, 4}, STATUS_OK, false, {NaN, 4}},
         {line, add, {1, 2, 0, 5}, STATUS_OK, true, {1, -8, 1, 12}},
         {line, add, {1, 2, 0, 0.9e-6}, STATUS_OK, false, {1, 2, 1, 2}},
         {line, add, {1, 2, 0, 1.1e-6}, STATUS_OK, true, {1, -8, 1, 12}},
-        {line, set, {1, 2, 1, 2 + 1e-8, 0}, STATUS_OK, true, {1, 2, 1, 2}},
         {twoPoints, add, {1, 2, 4, 6, 1}, STATUS_OK, true, {1, 2, 4, 6}},
         {twoPoints, add, {1, 2, 4, 6, 0}, STATUS_OK, true, {-5, -6, 7, 10}},
         {twoPoints, add, {1, 2, 1, 2, 0}, STATUS_OK, false, {1, 2, 1, 2}},
         {twoPoints, set, {5, 5, 5, 5, 0}, STATUS_TOO_SMALL, true, {1, 2, 3, 4}},
         {twoPoints, set, {1, 2, 1, 2, 1}, STATUS_OK, true, {1, 2, 1, 2}}, // a dot
-        {circle, add, {1, 2, 1e-9}, STATUS_OK, true, {1, 2, 1e-9}},
         {circle, add, {1, 2, 0.9e-9}, STATUS_INVALID_VALUES},
-        {circle, add, {1, 2, infinity}, STATUS_OK, true, {1, 2, infinity}},
+        {circle, add, {1, 2, Infinity}, STATUS_OK, true, {1, 2, Infinity}},
         {circle, set, {1, 2, -1}, STATUS_OK, false, {1, 2, -1}},
         {ellipse, add, {1, 2, 5, 0.9e-9, 0}, STATUS_OK, false, {1, 2, 5, 0, 0}},
-        {ellipse, add, {1, 2, 20, 5, infinity}, STATUS_OK, true, {1, 2, 20, 5, infinity}},
-        {ellipse, set, {1, 2, 20, 5, nan}, STATUS_OK, false, {1, 2, 20, 5, nan}},
+        {ellipse, set, {1, 2, 20, 5, NaN}, STATUS_OK, false, {1, 2, 20, 5, NaN}},
         {ellipse, set, {1, 2, 3, 5, -10}, STATUS_OK, true, {1, 2, 3, 5, 350}},
         {rectangle, add, {0, 0, 0, 5, 0}, STATUS_TOO_SMALL},
         {rectangle, add, {0, 0, 0, 0, 0}, STATUS_NOT_FINITE},
@@ -139,8 +114,7 @@ TEST_F(Shapes2D, TakeRefuseOrHideTheirValues)
         {rectangle, set, {0, 0, 1, 5, 190}, STATUS_OK, true, {0, 0, 1, 5, 190}},
         {polygon, add, {2, 5, 6, 0, 0, 7, 8, 0, 0, 1}, STATUS_TOO_SMALL},
         {polygon, add, {2, 5, 6, 0, 0, 7, 8, 0, 0, 0}, STATUS_OK, true, {5, 7, 0}},
-        {polygon, add, {3, 5, 6, 1, 0, 7, 8, nan, 0, 1}, STATUS_OK, false, {5, 7, 1}},
-        {polygon, set, {3, 0, 1, 2, 3, 0, 0, nan, 0, 0}, STATUS_OK, false, {0, 0, 0}}};
+        {polygon, add, {3, 5, 6, 1, 0, 7, 8, NaN, 0, 1}, STATUS_OK, false, {5, 7, 1}}};
     int32_t next = 0;
     for (const auto& [shape, isSet, given, status, valid, values] : cases)
     {
@@ -187,7 +161,9 @@ TEST_F(Shapes2D, CutLinesWithoutEndsToTheDrawSpace)
         EXPECT_THAT(Drawn(Add(line.Add, each.Given)), Near(each.Drawn));
     }
     const int32_t segment = Add(twoPoints.Add, {-80, 0, 80, 0, 1});
+    EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, 0, 0.1, 0, 5), STATUS_TOO_SMALL);
     EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, 0, 0.2, 5, 5), STATUS_OK) << "not for the lines";
+    EXPECT_EQ(Read(Tarvex_Window2D_GetDrawSpace), (Numbers{0, 0.2, 5, 5}));
     EXPECT_THAT(Drawn(0), Near(cases[0].Drawn));
     EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, -90, 90, -60, 60), STATUS_OK);
     for (int32_t element = 0; element < segment; ++element)
@@ -209,7 +185,7 @@ TEST_F(Shapes2D, AreDrawnOnTopAfterAChange)
         EXPECT_EQ(Tarvex_Element2D_SetColor(Id, element, 255, 0, 0), STATUS_OK);
         EXPECT_EQ(Call(kind->SetValue, element, kind->Given), STATUS_OK);
         EXPECT_EQ(TopPlot(), plot);
-        EXPECT_GT(TakeChartPicture(Id).Count(IsRed), 0) << "in the picture, not just in the list";
+        EXPECT_GT(Look().Count(IsRed), 0) << "in the picture, not just in the list";
         EXPECT_EQ(Tarvex_Element2D_SetColor(Id, element, 255, 255, 0), STATUS_OK);
         EXPECT_EQ(Tarvex_Element2D_Polygon_RemovePoint(Id, above, 3), STATUS_OK);
         EXPECT_EQ(TopPlot(2), plot) << "below the outline and the handles";
@@ -228,7 +204,7 @@ TEST_F(Shapes2D, EditPolygonsPointByPoint)
     EXPECT_EQ(Find(1.3, 2), 4) << "the mean";
     EXPECT_EQ(Call(Tarvex_Element2D_Polygon_RemovePoint, element, {0}), STATUS_OK);
     EXPECT_EQ(Call(Tarvex_Element2D_Polygon_RemovePoint, element, {0}), STATUS_TOO_SMALL);
-    EXPECT_EQ(Call(Tarvex_Element2D_Polygon_ChangePoint, element, {0, nan, 0}), STATUS_OK);
+    EXPECT_EQ(Call(Tarvex_Element2D_Polygon_ChangePoint, element, {0, NaN, 0}), STATUS_OK);
     EXPECT_EQ(Call(Tarvex_Element2D_Polygon_ChangePoint, element, {0, 0, 0}), STATUS_OK);
     EXPECT_FALSE(IsValid(element)) << "only new values make it valid again";
 }
@@ -237,7 +213,7 @@ TEST_F(Shapes2D, StayAsTheyWereWhenMemoryRunsOut)
 {
     const int32_t element = AddShape(polygon);
     const Numbers drawn = Drawn(element);
-    const vtkIdType plots = View().GetChart()->GetNumberOfPlots();
+    const vtkIdType plots = Chart()->GetNumberOfPlots();
     const Numbers many(100, 1.0);
     int failures = 0;
     for (bool through = false; !through; ++failures)
@@ -248,7 +224,7 @@ TEST_F(Shapes2D, StayAsTheyWereWhenMemoryRunsOut)
             Tarvex_Element2D_Polygon_SetValue(Id, element, 100, many.data(), many.data(), 1);
         through = !StopFailing();
         EXPECT_EQ(through, active == STATUS_OK && changed == STATUS_OK);
-        EXPECT_EQ(View().GetChart()->GetNumberOfPlots(), plots + (active == STATUS_OK));
+        EXPECT_EQ(Chart()->GetNumberOfPlots(), plots + (active == STATUS_OK));
         EXPECT_EQ(Drawn(element) == drawn, changed != STATUS_OK);
         Tarvex_Window2D_SetActiveElement(Id, TARVEX_NONE);
         EXPECT_EQ(Call(polygon.SetValue, element, polygon.Given), STATUS_OK);
@@ -270,7 +246,6 @@ TEST_F(Shapes2D, FollowADraggedHandle)
         {circle, {1, 2, 5}, {0, 8, 3, 4, 8, 3}, {8, 3, 0}},
         {rectangle, {0, 0, 10, 4, 30}, {0, 3, 4}, {3, 4, 10, 4, 30}},
         {rectangle, {0, 0, 10, 4, 0}, {5, 7, 4}, {1, 1, 12, 6, 0}},
-        {rectangle, {0, 0, 10, 4, 0}, {4, 9, 100}, {2, 0, 14, 4, 0}},
         // An edge at right angles to the axes, and one that moves along the diagonal.
         {rectangle, {0, 0, 10, 4, 90}, {4, 99, 9}, {0, 2, 14, 4, 90}},
         {rectangle, {0, 0, 10, 4, -90}, {6, 9, 33}, {3.5, 0, 10, 11, -90}},
@@ -280,10 +255,8 @@ TEST_F(Shapes2D, FollowADraggedHandle)
          {2.5 * s - 2.5, 2.5 * s - 2.5, 5 + 10 * s, 4, 45}},
         // Across what is opposite, and on: it stays put all the time.
         {rectangle, {0, 0, 10, 4, 0}, {5, -6, -3, 5, -7, -6, 5, -9, -4}, {-7, -3, 4, 2, 0}},
-        {rectangle, {0, 0, 10, 4, 0}, {4, -5, 0, 4, -8, 0, 4, -9, 0}, {-7, 0, 4, 4, 0}},
         {rectangle, {0, 0, -10, 4, 0}, {1, 9, -2, 1, 8, -4}, {1.5, -1, 13, 6, 0}},
-        {polygon, polygon.Given, {4, 12, 22}, {10, 20, 1}},
-        {polygon, polygon.Given, {0, -1, -2}, {-1, -2, 1}}};
+        {polygon, polygon.Given, {4, 12, 22}, {10, 20, 1}}};
     for (const auto& [shape, given, steps, values] : cases)
     {
         SCOPED_TRACE(testing::PrintToString(given) + testing::PrintToString(steps));
@@ -344,6 +317,6 @@ TEST_F(Shapes2D, AreActiveOneAtATime)
     AddActive(circle, circle.Given);
     EXPECT_EQ(Tarvex_Element2D_RemoveAll(Id), STATUS_OK);
     ExpectActive(TARVEX_NONE);
-    EXPECT_EQ(View().GetChart()->GetNumberOfPlots(), 1) << "that of an image";
+    EXPECT_EQ(Chart()->GetNumberOfPlots(), 1) << "that of an image";
 }
 } // namespace

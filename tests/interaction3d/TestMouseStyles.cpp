@@ -1,51 +1,17 @@
 // What the mouse does to a 3D view: hover, handles, and hosts that do anything while they hear of
 // it.
-#include "TarvexExt.h"
 #include "elements3d/CElement_Draggable.h"
-#include "platform/Inside.h"
-#include "support/ViewFixture.h"
+#include "support/MouseFixture.h"
 
-#include <atomic>
-#include <thread>
 #include <vtkActorCollection.h>
 #include <vtkTextActor.h>
 
-// After the others, whose names Xlib's macros would break.
-#include <GL/glx.h>
-
 namespace
 {
-struct Pixel
-{
-    int X;
-    int Y;
-};
-
-// What the host heard, and what it does then.
-std::string heard;
-std::function<void()> answer;
-
-void Dragged(int32_t windowId, int32_t elementId)
-{
-    heard += std::to_string(windowId) + ":" + std::to_string(elementId) + " ";
-    EXPECT_EQ(glXGetCurrentContext(), nullptr);
-    if (answer)
-    {
-        answer();
-    }
-}
-
-class MouseStyles : public ViewFixture
+class MouseStyles : public MouseFixture<SceneKind>
 {
 protected:
-    MouseStyles()
-    {
-        heard.clear();
-        answer = nullptr;
-        LookDown();
-        Tarvex_Window_RegisterCallback_ElementDragged(Id, Dragged);
-        Settle();
-    }
+    MouseStyles() { LookDown(); }
 
     // As LookDown, but near enough for handles of a few pixels.
     void LookClosely() const
@@ -55,21 +21,12 @@ protected:
     }
     int32_t AddActive(const Export& add, const Numbers& values) const
     {
-        const int32_t element = Add(add, values);
         LookClosely();
-        EXPECT_EQ(Tarvex_Window_SetActiveElement(Id, element), STATUS_OK);
-        View().GetRenderWindow()->Render();
-        return element;
+        return MouseFixture::AddActive(add, values);
     }
     int32_t AddActiveCube(double x = 0) const
     {
         return AddActive(Tarvex_Element_Add_Cube, {x, 0, 0, 1, 1, 1, 0, 1});
-    }
-    CWindow& View() const
-    {
-        CWindow* found = nullptr;
-        Inside(Id, [&](CWindow& view) { found = &view; });
-        return *found;
     }
     // Where a host position is seen, from the upper left corner.
     Pixel PixelOf(const Vector3& host) const
@@ -87,30 +44,11 @@ protected:
         return {shape->GetHandleX()[handle], shape->GetHandleY()[handle],
                 shape->GetHandleZ()[handle]};
     }
-    // What the host hears of one drag.
-    std::string Told(int32_t element) const
-    {
-        return std::to_string(Id) + ":" + std::to_string(element) + " ";
-    }
-    void MoveTo(const Pixel& at)
-    {
-        Host.MoveMouse(Native(), at.X, at.Y);
-        Settle();
-    }
-    void Click(unsigned button, bool press)
-    {
-        press ? Host.Press(button) : Host.Release(button);
-        Settle();
-    }
-    void DragBy(const Pixel& from, int dx, int dy)
-    {
-        Host.Drag(Native(), 1, from.X, from.Y, from.X + dx, from.Y + dy);
-    }
+    void DragBy(const Pixel& from, int dx, int dy) { Drag(1, from, {from.X + dx, from.Y + dy}, 5); }
     // By the handle in the middle of its upper face.
     void DragCube(int32_t cube) { DragBy(PixelOf(HandleAt(cube, 1)), 20, 10); }
     double CubeX(int32_t cube) const { return Read(Tarvex_Element_Cube_GetValue, cube)[0]; }
     int CountActors() const { return View().GetRenderer()->GetActors()->GetNumberOfItems(); }
-    NativeWindow Native() const { return NativeOf(Id); }
 };
 } // namespace
 
@@ -139,7 +77,8 @@ TEST_F(MouseStyles, DragAHandleOfEachKindByAsMuchAsTheMouse)
         EXPECT_EQ(now.X, from.X + 24);
         EXPECT_EQ(now.Y, from.Y - 12);
         EXPECT_EQ(after[2], before[2]);
-        EXPECT_EQ(heard, Told(element));
+        EXPECT_EQ(heard, Told('d'));
+        EXPECT_EQ(lastElement, element);
         EXPECT_EQ(Tarvex_Element_Remove(Id, element), STATUS_OK);
     }
 }
@@ -193,8 +132,8 @@ TEST_F(MouseStyles, EndADragWhereTheHandleWasSeenLast)
     const int32_t cube = AddActiveCube();
     const Pixel from = PixelOf(HandleAt(cube, 1));
     // Out of the window: nothing is there to be met.
-    Host.Drag(Native(), 1, from.X, from.Y, -8, from.Y, 4);
-    EXPECT_EQ(heard, Told(cube));
+    Drag(1, from, {-8, from.Y}, 4);
+    EXPECT_EQ(heard, Told('d'));
     const double left = CubeX(cube);
     EXPECT_LT(left, -1.0);
     EXPECT_EQ(PixelOf(HandleAt(cube, 1)).X, from.X + 3 * (-8 - from.X) / 4);
@@ -205,8 +144,8 @@ TEST_F(MouseStyles, EndADragWhereTheHandleWasSeenLast)
     ASSERT_EQ(Tarvex_Window_Camera_SetPosition(Id, left, -12, 1.0), STATUS_OK);
     const Vector3 before = HandleAt(cube, 1);
     const Pixel seen = PixelOf(before);
-    Host.Drag(Native(), 1, seen.X, seen.Y, seen.X, 60, 1);
-    EXPECT_EQ(heard, Told(cube));
+    Drag(1, seen, {seen.X, 60}, 1);
+    EXPECT_EQ(heard, Told('d'));
     EXPECT_EQ(HandleAt(cube, 1), before);
 }
 
@@ -215,13 +154,11 @@ TEST_F(MouseStyles, TakeASecondPressForAnother)
     const int32_t cube = AddActiveCube();
     const Pixel handle = PixelOf(HandleAt(cube, 1));
     MoveTo(handle);
-    for (const bool press : {true, false, true})
-    {
-        Click(1, press);
-    }
+    Click(1);
+    Press(1);
     MoveTo({handle.X + 15, handle.Y});
-    Click(1, false);
-    EXPECT_EQ(heard, Told(cube) + Told(cube));
+    Release(1);
+    EXPECT_EQ(heard, Told('d') + Told('d'));
     EXPECT_EQ(PixelOf(HandleAt(cube, 1)).X, handle.X + 15);
 }
 
@@ -246,7 +183,7 @@ TEST_F(MouseStyles, DropADragWhenItsTargetGoes)
         const Pixel from = PixelOf(HandleAt(cube, 1));
         const int actors = CountActors();
         MoveTo(from);
-        Click(1, true);
+        Press(1);
         EXPECT_EQ(CountActors(), actors + 1);
         MoveTo({from.X + 5, from.Y});
         const double moved = CubeX(cube);
@@ -255,7 +192,7 @@ TEST_F(MouseStyles, DropADragWhenItsTargetGoes)
         EXPECT_LE(CountActors(), actors);
         const Picture before = TakePicture(Id);
         MoveTo({from.X + 15, from.Y + 8});
-        Click(1, false);
+        Release(1);
         MoveTo({from.X + 40, from.Y});
         EXPECT_EQ(heard, "");
         EXPECT_EQ(TakePicture(Id).CountDifferences(before), 0);
@@ -266,82 +203,12 @@ TEST_F(MouseStyles, DropADragWhenItsTargetGoes)
 
 TEST_F(MouseStyles, LetTheHostDoAnythingWhenAnElementWasDragged)
 {
-    int32_t cube = TARVEX_NONE;
-    const int32_t other = AddActiveCube(1.5);
-    const struct
-    {
-        const char* Name;
-        std::function<void()> Act;
-    } cases[] = {
-        {"draw mode", [&] { Tarvex_Window_SetDrawMode(Id, 0); }},
-        {"raises", [] { throw std::runtime_error("the host's own"); }},
-        {"another active", [&] { Tarvex_Window_SetActiveElement(Id, other); }},
-        {"pumps", [] { TarvexExt_ProcessEvents(); }},
-        {"removed", [&] { Tarvex_Element_Remove(Id, cube); }},
-        {"all removed", [&] { Tarvex_Element_RemoveAll(Id); }},
-        {"deleted",
-         [&]
-         {
-             EXPECT_EQ(Tarvex_Window_Delete(Id), STATUS_OK);
-             EXPECT_EQ(Host.Children().size(), 0U);
-         }},
-    };
-    for (const auto& way : cases)
-    {
-        SCOPED_TRACE(way.Name);
-        cube = AddActiveCube(-0.5);
-        heard.clear();
-        answer = [&]
-        {
-            way.Act();
-            EXPECT_EQ(glXGetCurrentContext(), nullptr);
-        };
-        DragCube(cube);
-        EXPECT_EQ(heard, Told(cube));
-        // Nothing hangs on to the mouse, and the view is as usable as before.
-        const bool gone = Host.Children().empty();
-        const Picture before = gone ? Picture() : TakePicture(Id);
-        Host.MoveMouse(Host.Native, 50, 60);
-        Settle();
-        Host.MoveMouse(Host.Native, 90, 20);
-        Settle();
-        if (!gone)
-        {
-            EXPECT_EQ(TakePicture(Id).CountDifferences(before), 0);
-            answer = nullptr;
-            cube = AddActiveCube(-0.5);
-            heard.clear();
-            DragCube(cube);
-            EXPECT_EQ(heard, Told(cube));
-        }
-    }
-}
-
-TEST_F(MouseStyles, WorkWhileAnotherThreadCalls)
-{
-    const int32_t cube = AddActiveCube();
-    ASSERT_EQ(Tarvex_Window_PickCoordinates_Show(Id, 1), STATUS_OK);
-    std::atomic<bool> stop = false;
-    std::atomic<int> calls = 0;
-    std::thread caller(
-        [&]
-        {
-            for (uint8_t red = 0; !stop; ++red)
-            {
-                const bool fine = Tarvex_Window_SetBackgroundColor(Id, red, 0, 0) == STATUS_OK &&
-                                  Tarvex_Element_SetColor(Id, cube, 200, red, 0) == STATUS_OK &&
-                                  Tarvex_Window_PickCoordinates_Show(Id, red % 2) == STATUS_OK;
-                calls += fine ? 1 : -1000000;
-            }
-        });
-    for (int drag = 0; drag < 2; ++drag)
-    {
-        DragCube(cube);
-    }
-    stop = true;
-    caller.join();
-    EXPECT_GT(calls, 10);
-    EXPECT_EQ(heard, Told(cube) + Told(cube));
+    LetTheHostAnswer('d',
+                     [this]
+                     {
+                         Other = AddActiveCube(1.5);
+                         DragCube(AddActiveCube(-0.5));
+                     });
 }
 
 TEST_F(MouseStyles, DragHandlesOnlyBetweenDrawingGestures)
@@ -349,18 +216,16 @@ TEST_F(MouseStyles, DragHandlesOnlyBetweenDrawingGestures)
     const int32_t cube = AddActiveCube();
     ASSERT_EQ(Tarvex_Window_SetDrawMode(Id, TARVEX_DRAW_POLYHEDRON), STATUS_OK);
     DragCube(cube);
-    EXPECT_EQ(heard, Told(cube));
+    EXPECT_EQ(heard, Told('d'));
     EXPECT_EQ(Read(Tarvex_Element_GetCount), Numbers{1});
     const double x = CubeX(cube);
     for (const Pixel& at : {Pixel{60, 140}, PixelOf(HandleAt(cube, 1)), Pixel{140, 150}})
     {
         MoveTo(at);
-        Click(1, true);
-        Click(1, false);
+        Click(1);
     }
-    Click(3, true);
-    Click(3, false);
+    Click(3);
     EXPECT_EQ(Read(Tarvex_Element_Polyhedron_GetPointCount, cube + 1), Numbers{3});
-    EXPECT_EQ(heard, Told(cube));
+    EXPECT_EQ(heard, Told('d') + Told('a'));
     EXPECT_EQ(CubeX(cube), x);
 }

@@ -74,46 +74,41 @@ TEST_F(ScenePicker, FindsWhatVtkFindsAndLeavesThePictureAlone)
                   STATUS_OK);
         ASSERT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
         const Picture before = TakePicture(Id);
-        const NativeWindow native = NativeOf(Id);
-        Inside(Id,
-               [&](CWindow& view)
-               {
-                   struct Found
-                   {
-                       int X;
-                       int Y;
-                       vtkProp* Prop;
-                       Vector3 Position;
-                   };
-                   std::vector<Found> found;
-                   CScenePicker picker;
-                   for (int y = -3; y <= Pixels + 3; y += 7)
-                   {
-                       for (int x = -4; x <= Pixels + 3; x += 7)
-                       {
-                           picker.Forget();
-                           const Vector3 position = picker.Pick(view.GetRenderer(), x, y);
-                           found.push_back({x, y, picker.GetProp(), position});
-                       }
-                   }
-                   for (const bool rendered : {false, true})
-                   {
-                       EXPECT_EQ(TakePicture(Id).CountDifferences(before), 0) << rendered;
-                       EXPECT_EQ(Host.TakeScreen(native).CountDifferences(before), 0) << rendered;
-                       view.GetRenderWindow()->Render();
-                   }
+        vtkRenderer* renderer = ViewOf(Id).GetRenderer();
+        struct Found
+        {
+            int X, Y;
+            vtkProp* Prop;
+            Vector3 Position;
+        };
+        std::vector<Found> found;
+        CScenePicker picker;
+        for (int y = -3; y <= Pixels + 3; y += 7)
+        {
+            for (int x = -4; x <= Pixels + 3; x += 7)
+            {
+                picker.Forget();
+                const Vector3 position = picker.Pick(renderer, x, y);
+                found.push_back({x, y, picker.GetProp(), position});
+            }
+        }
+        for (const bool rendered : {false, true})
+        {
+            EXPECT_EQ(TakePicture(Id).CountDifferences(before), 0) << rendered;
+            EXPECT_EQ(Host.TakeScreen(NativeOf(Id)).CountDifferences(before), 0) << rendered;
+            ViewOf(Id).GetRenderWindow()->Render();
+        }
 
-                   int hits = 0;
-                   const vtkNew<vtkPropPicker> stock;
-                   for (const Found& ours : found)
-                   {
-                       SCOPED_TRACE(testing::Message() << ours.X << ", " << ours.Y);
-                       hits += stock->PickProp(ours.X, ours.Y, view.GetRenderer());
-                       EXPECT_EQ(ours.Prop, stock->GetViewProp());
-                       EXPECT_LE(Distance(ours.Position, stock->GetPickPosition()),
-                                 DepthStep(view.GetRenderer(), ours.Position));
-                   }
-                   EXPECT_GT(hits, 100);
-               });
+        int hits = 0;
+        const vtkNew<vtkPropPicker> stock;
+        for (const Found& ours : found)
+        {
+            SCOPED_TRACE(testing::Message() << ours.X << ", " << ours.Y);
+            hits += stock->PickProp(ours.X, ours.Y, renderer);
+            EXPECT_EQ(ours.Prop, stock->GetViewProp());
+            EXPECT_LE(Distance(ours.Position, stock->GetPickPosition()),
+                      DepthStep(renderer, ours.Position));
+        }
+        EXPECT_GT(hits, 100);
     }
 }

@@ -18,6 +18,15 @@ void Inside(int32_t windowId, Action&& action)
                                          });
 }
 
+// For as long as it lives; a view that is not there is none to look into.
+template <class View = CWindow>
+View& ViewOf(int32_t windowId)
+{
+    View* found = nullptr;
+    Inside<View>(windowId, [&](View& view) { found = &view; });
+    return *found;
+}
+
 template <class View = CWindow>
 NativeWindow NativeOf(int32_t windowId)
 {
@@ -31,13 +40,14 @@ NativeWindow NativeOf(int32_t windowId)
 class RenderCounter
 {
 public:
-    explicit RenderCounter(int32_t windowId)
+    explicit RenderCounter(int32_t windowId) : RenderCounter(ViewOf(windowId)) {}
+    template <class View>
+    explicit RenderCounter(View& view)
     {
         Command->SetClientData(&Count);
         Command->SetCallback([](vtkObject*, unsigned long, void* count, void*)
                              { ++*static_cast<int*>(count); });
-        Inside(windowId, [&](CWindow& view)
-               { view.GetRenderWindow()->AddObserver(vtkCommand::EndEvent, Command); });
+        view.GetRenderWindow()->AddObserver(vtkCommand::EndEvent, Command);
     }
     ~RenderCounter() { Command->SetCallback(nullptr); }
     RenderCounter(const RenderCounter&) = delete;

@@ -100,6 +100,8 @@ inline bool IsLit(const Picture::Color& color)
 class HostFixture : public testing::Test
 {
 protected:
+    explicit HostFixture(int width = Pixels, int height = Pixels) : Host(width, height) {}
+
     int32_t Call(const Export& function, const Numbers& given) const
     {
         Numbers outputs;
@@ -129,7 +131,7 @@ protected:
     static constexpr double Infinity = std::numeric_limits<double>::infinity();
     static constexpr double Marker = std::numeric_limits<double>::max(); // stands for no value
 
-    TestHost Host{Pixels, Pixels};
+    TestHost Host;
     int32_t Id = TARVEX_NONE;
 };
 
@@ -169,9 +171,9 @@ protected:
 class ChartFixture : public HostFixture
 {
 protected:
-    ChartFixture()
+    explicit ChartFixture(int width = Pixels, int height = Pixels) : HostFixture(width, height)
     {
-        EXPECT_EQ(Tarvex_Window2D_Create(Host.Handle(), 1, 0, 0, Pixels, Pixels, &Id), STATUS_OK);
+        EXPECT_EQ(Tarvex_Window2D_Create(Host.Handle(), 1, 0, 0, width, height, &Id), STATUS_OK);
     }
     ~ChartFixture() override { Tarvex_Window2D_Delete(Id); }
 

@@ -1,42 +1,14 @@
 // Range, look and size of a chart view.
 #include "TarvexExt.h"
-#include "frame/CWindowManager.h"
-#include "support/ViewFixture.h"
+#include "view2d/InsideChart.h"
 
-#include <vtkAxis.h>
-#include <vtkCallbackCommand.h>
-#include <vtkChartHistogram2D.h>
-#include <vtkNew.h>
 #include <vtkPen.h>
 
 namespace
 {
-class ChartViews : public ChartFixture
+class ChartViews : public InsideChart
 {
 protected:
-    CWindow2D& View() const
-    {
-        CWindow2D* found = nullptr;
-        CWindowManager::Instance->Call<CWindow2D>(Id,
-                                                  [&](CWindow2D& view) -> int32_t
-                                                  {
-                                                      found = &view;
-                                                      return STATUS_OK;
-                                                  });
-        return *found;
-    }
-    // Both ends of the X axis, then of the Y axis.
-    Numbers Ranges() const
-    {
-        Numbers ranges;
-        for (const int side : {vtkAxis::BOTTOM, vtkAxis::LEFT})
-        {
-            const vtkAxis* axis = View().GetChart()->GetAxis(side);
-            ranges.push_back(const_cast<vtkAxis*>(axis)->GetUnscaledMinimum());
-            ranges.push_back(const_cast<vtkAxis*>(axis)->GetUnscaledMaximum());
-        }
-        return ranges;
-    }
     int32_t Scale(bool keepAspect) const { return Tarvex_Window2D_ChartAutoScale(Id, keepAspect); }
 };
 
@@ -60,9 +32,8 @@ TEST_F(ChartViews, FitTheirAxesToTheElements)
     EXPECT_EQ(Scale(false), STATUS_OK);
     EXPECT_THAT(Ranges(), Near({-2, 108, 3.5, 14.5}));
 
-    vtkChartHistogram2D* chart = View().GetChart();
-    const double width = chart->GetPoint2()[0] - chart->GetPoint1()[0];
-    const double height = chart->GetPoint2()[1] - chart->GetPoint1()[1];
+    const double width = Chart()->GetPoint2()[0] - Chart()->GetPoint1()[0];
+    const double height = Chart()->GetPoint2()[1] - Chart()->GetPoint1()[1];
     EXPECT_EQ(Scale(true), STATUS_OK);
     const double half = 55 * height / width;
     EXPECT_THAT(Ranges(), Near({-2, 108, 9 - half, 9 + half}));
@@ -83,10 +54,7 @@ TEST_F(ChartViews, FitTheirAxesToTheElements)
 TEST_F(ChartViews, HaveTwoLayouts)
 {
     const auto grid = [this]
-    {
-        return static_cast<int>(
-            View().GetChart()->GetAxis(vtkAxis::LEFT)->GetGridPen()->GetColor()[0]);
-    };
+    { return static_cast<int>(Axis(vtkAxis::LEFT)->GetGridPen()->GetColor()[0]); };
     EXPECT_EQ(grid(), 50);
     EXPECT_EQ(Tarvex_Window2D_SetBackgroundColor(Id, 255, 0, 0), STATUS_OK);
     EXPECT_EQ(Tarvex_Window2D_SetChartLayout(Id, 2), STATUS_OUT_OF_RANGE);
@@ -97,24 +65,9 @@ TEST_F(ChartViews, HaveTwoLayouts)
     EXPECT_EQ(grid(), 210);
 }
 
-TEST_F(ChartViews, TakeDrawSpacesThatAreWideEnough)
-{
-    const auto set = [this](double xmax, double ymin)
-    { return Tarvex_Window2D_SetDrawSpace(Id, 0, xmax, ymin, 5); };
-    EXPECT_EQ(set(0.1, 0), STATUS_TOO_SMALL);
-    EXPECT_EQ(Read(Tarvex_Window2D_GetDrawSpace), (Numbers{-50, 50, -50, 50}));
-    EXPECT_EQ(set(0.2, 5), STATUS_OK) << "Y is for the lines to judge";
-    EXPECT_EQ(Read(Tarvex_Window2D_GetDrawSpace), (Numbers{0, 0.2, 5, 5}));
-}
-
 TEST_F(ChartViews, DrawOnceForEachCallThatPromisesIt)
 {
-    int count = 0;
-    vtkNew<vtkCallbackCommand> counter;
-    counter->SetClientData(&count);
-    counter->SetCallback([](vtkObject*, unsigned long, void* target, void*)
-                         { ++*static_cast<int*>(target); });
-    View().GetRenderWindow()->AddObserver(vtkCommand::EndEvent, counter);
+    RenderCounter counter(View());
     const int16_t samples[] = {1, 2, 3};
     const uint8_t pixels[4] = {};
     int32_t id = -1;
@@ -138,13 +91,12 @@ TEST_F(ChartViews, DrawOnceForEachCallThatPromisesIt)
         {[&] { return Tarvex_Element2D_Remove(Id, id); }, 0},
         {[&] { return Tarvex_Element2D_RemoveAll(Id); }, 0},
         {[&] { return TarvexExt_Window2D_EndUpdate(Id); }, 1}};
-    int at = 0;
-    for (const auto& [call, renders] : steps)
+    for (const auto& step : steps)
     {
-        count = 0;
-        EXPECT_EQ(call(), STATUS_OK) << "step " << at;
-        EXPECT_EQ(count, renders) << "step " << at;
-        ++at;
+        SCOPED_TRACE(&step - steps);
+        counter.Count = 0;
+        EXPECT_EQ(step.first(), STATUS_OK);
+        EXPECT_EQ(counter.Count, step.second);
     }
     EXPECT_EQ(TarvexExt_Window2D_EndUpdate(Id), STATUS_NOT_READY);
 }

@@ -1,0 +1,43 @@
+// A chart view from the inside: its chart, axes and plots.
+#pragma once
+
+#include "platform/Inside.h"
+#include "support/ViewFixture.h"
+
+#include <vtkAxis.h>
+#include <vtkChartHistogram2D.h>
+#include <vtkPlot.h>
+
+class InsideChart : public ChartFixture
+{
+protected:
+    using ChartFixture::ChartFixture;
+
+    CWindow2D& View() const { return ViewOf<CWindow2D>(Id); }
+    vtkChartHistogram2D* Chart() const { return View().GetChart(); }
+    vtkAxis* Axis(int side) const { return Chart()->GetAxis(side); }
+    // Both ends of the X axis, then of the Y axis.
+    Numbers Ranges() const
+    {
+        Numbers ranges;
+        for (vtkAxis* axis : {Axis(vtkAxis::BOTTOM), Axis(vtkAxis::LEFT)})
+        {
+            ranges.push_back(axis->GetUnscaledMinimum());
+            ranges.push_back(axis->GetUnscaledMaximum());
+        }
+        return ranges;
+    }
+    vtkPlot* TopPlot(int below = 0) const
+    {
+        return Chart()->GetPlot(Chart()->GetNumberOfPlots() - 1 - below);
+    }
+    // What an element says of its extent, both ends of X, then of Y.
+    Numbers Bounds(int32_t element) const
+    {
+        Numbers box(4);
+        View().FindElement(element)->GetBounds(&box[0], &box[1], &box[2], &box[3]);
+        return box;
+    }
+    void Render() const { View().GetRenderWindow()->Render(); }
+    Picture Look() const { return TakeChartPicture(Id); }
+};
