@@ -6,6 +6,9 @@
 #include <vtkActorCollection.h>
 #include <vtkTextActor.h>
 
+#include <atomic>
+#include <thread>
+
 namespace
 {
 class MouseStyles : public MouseFixture<SceneKind>
@@ -209,6 +212,31 @@ TEST_F(MouseStyles, LetTheHostDoAnythingWhenAnElementWasDragged)
                          Other = AddActiveCube(1.5);
                          DragCube(AddActiveCube(-0.5));
                      });
+}
+
+TEST_F(MouseStyles, WorkWhileAnotherThreadCalls)
+{
+    const int32_t cube = AddActiveCube();
+    ASSERT_EQ(Tarvex_Window_PickCoordinates_Show(Id, 1), STATUS_OK);
+    std::atomic<bool> stop = false;
+    std::atomic<int> calls = 0;
+    std::thread caller(
+        [&]
+        {
+            for (uint8_t red = 0; !stop; ++red)
+            {
+                const bool fine = Tarvex_Window_SetBackgroundColor(Id, red, 0, 0) == STATUS_OK &&
+                                  Tarvex_Element_SetColor(Id, cube, 200, red, 0) == STATUS_OK &&
+                                  Tarvex_Window_PickCoordinates_Show(Id, red % 2) == STATUS_OK;
+                calls += fine ? 1 : -1000000;
+            }
+        });
+    DragCube(cube);
+    DragCube(cube);
+    stop = true;
+    caller.join();
+    EXPECT_GT(calls, 10);
+    EXPECT_EQ(heard, Told('d') + Told('d'));
 }
 
 TEST_F(MouseStyles, DragHandlesOnlyBetweenDrawingGestures)
