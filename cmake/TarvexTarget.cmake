@@ -18,3 +18,16 @@ if(TARVEX_COVERAGE)
   target_compile_options(tarvex_options INTERFACE --coverage)
   target_link_options(tarvex_options INTERFACE --coverage)
 endif()
+
+# What the tests tell the sanitizers.
+function(tarvex_set_sanitizer_options)
+  if(NOT TARVEX_SANITIZE)
+    return()
+  endif()
+  # The leak checker crashes now and then on the thread-local storage of libraries that were
+  # unloaded, as Mesa's drivers are with the last display.
+  string(JOIN ":" leaks print_suppressions=0 use_tls=0
+         suppressions=${PROJECT_SOURCE_DIR}/tests/suppressions/lsan.supp)
+  set_tests_properties(${ARGN} PROPERTIES ENVIRONMENT
+    "ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=${leaks}")
+endfunction()

@@ -3,6 +3,8 @@
 #include "platform/XState.h"
 
 #include <algorithm>
+#include <csignal>
+#include <ctime>
 
 // Last: its macros break other headers.
 #include <X11/Xlibint.h>
@@ -44,6 +46,32 @@ void EmptyBuffer(Display* display)
     constexpr int leastSize = 2048; // of Xlib's buffers
     display->bufptr = display->buffer;
     display->bufmax = display->buffer + leastSize;
+}
+
+sigset_t PipeSignal()
+{
+    sigset_t set;
+    sigemptyset(&set);
+    sigaddset(&set, SIGPIPE);
+    return set;
+}
+
+// False: the host has blocked it already.
+bool HoldPipeSignal()
+{
+    const sigset_t pipe = PipeSignal();
+    sigset_t before;
+    pthread_sigmask(SIG_BLOCK, &pipe, &before);
+    return sigismember(&before, SIGPIPE) == 0;
+}
+
+// The one that came meanwhile, if any, is ours.
+void DropPipeSignal()
+{
+    const sigset_t pipe = PipeSignal();
+    const timespec now = {};
+    sigtimedwait(&pipe, nullptr, &now);
+    pthread_sigmask(SIG_UNBLOCK, &pipe, nullptr);
 }
 
 // Xlib ends the process after an I/O error unless the display has an exit handler that returns.
@@ -181,6 +209,7 @@ XErrorTrap::XErrorTrap() : Before(X11->ErrorCount)
     {
         X11->HostErrorHandler = XSetErrorHandler(OnError);
         X11->HostIOErrorHandler = XSetIOErrorHandler(OnIOError);
+        X11->HoldsPipeSignal = HoldPipeSignal();
     }
 }
 
@@ -190,6 +219,10 @@ XErrorTrap::~XErrorTrap()
     {
         XSetErrorHandler(X11->HostErrorHandler);
         XSetIOErrorHandler(X11->HostIOErrorHandler);
+        if (X11->HoldsPipeSignal)
+        {
+            DropPipeSignal();
+        }
     }
 }
 

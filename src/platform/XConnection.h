@@ -38,6 +38,7 @@ private:
 
 // While one lives, X errors on our connections are counted instead of ending the process, and a
 // lost server marks its connection as broken. All other connections keep the handlers of the host.
+// The thread gets no SIGPIPE: XCB writes so that a server that dies meanwhile raises one.
 class XErrorTrap
 {
 public:

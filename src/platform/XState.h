@@ -23,6 +23,7 @@ struct XState
     int TrapDepth = 0;
     XErrorHandler HostErrorHandler = nullptr;
     XIOErrorHandler HostIOErrorHandler = nullptr;
+    bool HoldsPipeSignal = false;
 
     // The views by their native window: whom an event is for. Not those that are lost.
     std::map<Window, CXRenderWindow*> Views;

@@ -11,8 +11,29 @@
 #include <X11/Xlib.h>
 
 #include <chrono>
+#include <csignal>
+#include <dlfcn.h>
+#include <functional>
 #include <random>
+#include <sys/uio.h>
 #include <thread>
+#include <utility>
+
+namespace
+{
+// Runs once, between XCB's look at its socket and its write.
+std::function<void()> beforeWrite;
+} // namespace
+
+extern "C" __attribute__((visibility("default"))) ssize_t writev(int descriptor, const iovec* parts, int count)
+{
+    if (const auto action = std::exchange(beforeWrite, nullptr))
+    {
+        action();
+    }
+    static const auto next = reinterpret_cast<decltype(&writev)>(dlsym(RTLD_NEXT, "writev"));
+    return next(descriptor, parts, count);
+}
 
 namespace
 {
@@ -65,6 +86,28 @@ TEST(ServerLossProcess, DISABLED_WithoutOpenGLAViewHasNoWindow)
     EXPECT_EQ(view.Created, STATUS_OK);
     EXPECT_EQ(view.Render(), STATUS_NO_NATIVE_WINDOW);
     EXPECT_EQ(view.Delete(), STATUS_OK);
+}
+
+// A write to a socket that nobody reads raises SIGPIPE, and few hosts ignore it.
+TEST(ServerLossProcess, DISABLED_JustBeforeAWriteRaisesNoSignal)
+{
+    {
+        Doomed doomed;
+        bool killed = false;
+        beforeWrite = [&]
+        {
+            doomed.Server.Kill();
+            killed = true;
+        };
+        doomed.View.Render();
+        EXPECT_TRUE(killed);
+        EXPECT_EQ(doomed.View.Guard(), STATUS_NO_NATIVE_WINDOW);
+        EXPECT_EQ(doomed.View.Delete(), STATUS_OK);
+    }
+    sigset_t mask;
+    pthread_sigmask(SIG_BLOCK, nullptr, &mask);
+    EXPECT_EQ(sigismember(&mask, SIGPIPE), 0);
+    WorksHere();
 }
 
 TEST(ServerLossProcess, DISABLED_AtAnyMomentOfAnyCallIsSurvived)
