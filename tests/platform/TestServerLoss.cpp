@@ -25,7 +25,8 @@ namespace
 std::function<void()> beforeWrite;
 } // namespace
 
-extern "C" __attribute__((visibility("default"))) ssize_t writev(int descriptor, const iovec* parts, int count)
+extern "C" __attribute__((visibility("default"))) ssize_t writev(int descriptor, const iovec* parts,
+                                                                 int count)
 {
     if (const auto action = std::exchange(beforeWrite, nullptr))
     {
