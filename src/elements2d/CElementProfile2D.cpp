@@ -288,6 +288,6 @@ int32_t CElementProfile2D::GetValue(double* x, double* y, uint8_t* valid)
 
 template int32_t CElementProfile2D::Replace(const GeneralSamples&, int32_t, int32_t);
 template int32_t CElementProfile2D::Replace(const KorSamples&, int32_t, int32_t);
-template int32_t CElementProfile2D::Replace(const UniformSamples&, int32_t, int32_t);
+template int32_t CElementProfile2D::Replace(const PitchedSamples&, int32_t, int32_t);
 template int32_t CElementProfile2D::Attach(const GeneralSamples&, int32_t);
 template int32_t CElementProfile2D::Attach(const KorSamples&, int32_t);

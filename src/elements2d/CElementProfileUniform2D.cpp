@@ -11,7 +11,7 @@ int32_t CElementProfileUniform2D::Initialize(const ChartSite& site, const int16_
                                              double zOffset)
 {
     Begin(site, MakeColumnName(nullptr, "Uniform spaced profile", site.Id));
-    return Replace(UniformSamples{{z, {zScale, zOffset}}, {xSpacing, xStart}}, count);
+    return Replace(PitchedSamples{{z, {zScale, zOffset}}, {xSpacing, xStart}}, count);
 }
 
 int32_t CElementProfileUniform2D::SetValue(int32_t count, const int16_t* z, double xSpacing,
@@ -21,7 +21,7 @@ int32_t CElementProfileUniform2D::SetValue(int32_t count, const int16_t* z, doub
     {
         return STATUS_NOT_READY;
     }
-    return Replace(UniformSamples{{z, {zScale, zOffset}}, {xSpacing, xStart}}, count);
+    return Replace(PitchedSamples{{z, {zScale, zOffset}}, {xSpacing, xStart}}, count);
 }
 
 void CElementProfileUniform2D::ApplyMarkers(vtkPlotPoints* plot, int32_t /*rows*/) const

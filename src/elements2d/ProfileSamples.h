@@ -52,7 +52,7 @@ struct KorSamples : HeightSamples
     double GetX(int32_t sample) const { return XScale.Place(X[sample]); }
 };
 
-struct UniformSamples : HeightSamples
+struct PitchedSamples : HeightSamples
 {
     SampleScale XScale;
 
