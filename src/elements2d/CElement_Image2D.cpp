@@ -55,6 +55,7 @@ void ToBytes(const int16_t* pixels, std::vector<uint8_t>& bytes, ImageForm& form
     byteOf[bits(invalid)] = 0;
     for (int32_t value = min; value <= max; ++value)
     {
+        // NOLINTNEXTLINE(bugprone-incorrect-roundings): nothing here is negative
         const int byte = static_cast<int>((value - min) * stepsPerUnit + 1.0 + 0.5);
         byteOf[bits(value)] = static_cast<uint8_t>(std::clamp(byte, 1, 255));
     }

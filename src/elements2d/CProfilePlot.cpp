@@ -108,7 +108,7 @@ bool CProfilePlot::Paint(vtkContext2D* painter)
         }
         start = end + 1;
     }
-    // The markers.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the markers alone
     return vtkPlotPoints::Paint(painter);
 }
 
@@ -141,8 +141,8 @@ void CProfilePlot::PaintLine(vtkContext2D* painter, PlotPlace* places, vtkIdType
     }
     const double columns = std::min<double>(width, scale.ToPixel(places[last].X) -
                                                        scale.ToPixel(places[first].X) + 1.0);
-    constexpr vtkIdType worthwhile = 8;
-    if (seen < worthwhile * columns)
+    constexpr double worthwhile = 8.0;
+    if (static_cast<double>(seen) < worthwhile * columns)
     {
         draw(places + first, seen);
         return;

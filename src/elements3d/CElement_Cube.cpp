@@ -75,7 +75,7 @@ int32_t CElement_Cube::BuildPipeline()
                                           {1, 2, 6, 5}, {2, 3, 7, 6}, {3, 0, 4, 7}};
         for (const auto& face : faces)
         {
-            cells->InsertNextCell(std::size(face), face);
+            cells->InsertNextCell(static_cast<vtkIdType>(std::size(face)), face);
         }
         polyData->SetPolys(cells);
     }

@@ -4,6 +4,7 @@
 
 #include "elements3d/Directions.h"
 
+#include <vtkActorCollection.h>
 #include <vtkSmartPointer.h>
 
 #include <cstddef>
@@ -11,7 +12,6 @@
 #include <vector>
 
 class vtkActor;
-class vtkActorCollection;
 class vtkPolyDataMapper;
 class vtkProperty;
 class vtkRenderer;

@@ -23,11 +23,11 @@ void CViewBase::Place(int32_t x, int32_t y, int32_t width, int32_t height)
     RenderWindow->SetSize(std::max(width, leastSize), std::max(height, leastSize));
 }
 
-void CViewBase::MakeWindow(vtkSmartPointer<vtkRenderer> renderer, bool noBorders,
+void CViewBase::MakeWindow(const vtkSmartPointer<vtkRenderer>& renderer, bool noBorders,
                            void* parentWindow, int32_t x, int32_t y, int32_t width, int32_t height,
                            bool multiSamples)
 {
-    Renderer = std::move(renderer);
+    Renderer = renderer;
     Renderer->SetBackground(0.0, 0.0, 0.0);
     RenderWindow = Platform::NewRenderWindow();
     if (!multiSamples)

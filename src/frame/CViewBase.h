@@ -46,8 +46,9 @@ protected:
 
     // Renderer, render window and interactor, with their native window in the host's. Does not
     // render.
-    void MakeWindow(vtkSmartPointer<vtkRenderer> renderer, bool noBorders, void* parentWindow,
-                    int32_t x, int32_t y, int32_t width, int32_t height, bool multiSamples);
+    void MakeWindow(const vtkSmartPointer<vtkRenderer>& renderer, bool noBorders,
+                    void* parentWindow, int32_t x, int32_t y, int32_t width, int32_t height,
+                    bool multiSamples);
     // The native window is gone when this returns, also while an event of it is being handled.
     void CloseWindow();
     // Guard, then the action inside the exception guard.

@@ -6,10 +6,11 @@
 #include "elements3d/CElement_Shape.h"
 #include "measurement/HeightRange.h"
 
+#include <vtkPolyData.h>
+
 #include <memory>
 
 class vtkPoints;
-class vtkPolyData;
 
 class CElementProfile : public CElement_Shape
 {

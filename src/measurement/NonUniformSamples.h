@@ -94,7 +94,7 @@ struct NonUniformSamples
     {
         const size_t begin = static_cast<size_t>(row) * static_cast<size_t>(grid.Columns) +
                              static_cast<size_t>(first);
-        const auto count = static_cast<size_t>(last - first + 1);
+        const auto count = static_cast<size_t>(int64_t{last} - first + 1);
         const int16_t* const axes[] = {&X[begin], &Y[begin], &Heights[begin]};
         for (size_t axis = 0; axis < 3; ++axis)
         {

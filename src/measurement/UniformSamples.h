@@ -59,7 +59,7 @@ struct UniformSamples
         }
         void operator()(int32_t row, float* point) const
         {
-            const float y = static_cast<float>(Grid.Place(1, row));
+            const auto y = static_cast<float>(Grid.Place(1, row));
             const int16_t* height = Heights + static_cast<size_t>(row) * X.size();
             for (const float x : X)
             {
@@ -85,7 +85,7 @@ struct UniformSamples
         const HeightRange range =
             FindRangeOfValid(&Heights[static_cast<size_t>(row) * static_cast<size_t>(grid.Columns) +
                                       static_cast<size_t>(first)],
-                             static_cast<size_t>(last - first + 1));
+                             static_cast<size_t>(int64_t{last} - first + 1));
         box.Include(0, first, last);
         box.Include(1, row, row);
         box.Include(2, range.Minimum, range.Maximum);
