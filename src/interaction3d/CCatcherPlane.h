@@ -4,11 +4,11 @@
 
 #include "elements3d/Directions.h"
 
+#include <vtkActor.h>
 #include <vtkNew.h>
 #include <vtkSmartPointer.h>
 #include <vtkWeakPointer.h>
 
-class vtkActor;
 class vtkPlaneSource;
 class vtkRenderer;
 

@@ -13,6 +13,8 @@
 #include "platform/Platform.h"
 #include "view3d/CWindow.h"
 
+#include <vtkTransform.h>
+
 namespace
 {
 int32_t AddRectangle(CWindow& view, const CElement_Drawn& drawn, int32_t* elementId)
