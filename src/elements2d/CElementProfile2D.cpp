@@ -2,6 +2,7 @@
 
 #include "elements2d/CProfilePlot.h"
 #include "elements2d/ProfileSamples.h"
+#include "frame/NumberTest.h"
 
 #include <vtkChartHistogram2D.h>
 
@@ -76,7 +77,7 @@ int32_t CElementProfile2D::Take(const Samples& samples, int32_t kept, int32_t co
     {
         return STATUS_NOT_FINITE;
     }
-    if (count > std::numeric_limits<int32_t>::max() - kept)
+    if (!FitsAnArray<double>(int64_t{kept} + count))
     {
         return STATUS_OUT_OF_MEMORY;
     }

@@ -4,7 +4,6 @@
 #include "frame/NumberTest.h"
 
 #include <algorithm>
-#include <limits>
 
 CElement_Polygon2D::CElement_Polygon2D() : CElement_Draggable2D(Type, STATUS_INVALID_VALUES) {}
 
@@ -19,9 +18,9 @@ int32_t CElement_Polygon2D::Read(int32_t count, const double* x, const double* y
     {
         return STATUS_TOO_SMALL;
     }
-    if (count == std::numeric_limits<int32_t>::max())
+    if (!FitsAnArray<double>(count))
     {
-        return STATUS_OUT_OF_MEMORY; // no room for one more, which closes it
+        return STATUS_OUT_OF_MEMORY;
     }
     places.resize(static_cast<size_t>(count) + 1);
     for (size_t point = 0; point + 1 < places.size(); ++point)

@@ -16,6 +16,10 @@ int32_t CElement_Polygon::Read(int32_t count, const double* x, const double* y, 
     {
         return STATUS_TOO_SMALL;
     }
+    if (!FitsAnArray<double>(count))
+    {
+        return STATUS_OUT_OF_MEMORY;
+    }
     points.reserve(3 * static_cast<size_t>(count));
     for (int32_t point = 0; point < count; ++point)
     {

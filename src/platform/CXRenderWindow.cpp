@@ -22,8 +22,9 @@ namespace
 {
 // Above the size of any wall of screens, below what the X server and OpenGL take.
 constexpr int longestSide = 16384;
-// More than an 8K screen would cost gigabytes at the next picture.
+// The next picture costs thirty bytes for each pixel.
 constexpr int mostPixels = 36'000'000;
+constexpr int alwaysAllowedPixels = 4'000'000;
 
 constexpr long eventMask = ButtonPressMask | ButtonReleaseMask | PointerMotionMask |
                            EnterWindowMask | LeaveWindowMask | ExposureMask | StructureNotifyMask;
@@ -373,10 +374,29 @@ void CXRenderWindow::MakeCurrent()
     }
 }
 
+// As many as the server's screen has, on all monitors together.
+int CXRenderWindow::GetMostPixels() const
+{
+    if (!IsConnected())
+    {
+        return alwaysAllowedPixels;
+    }
+    // As it is now: what Xlib keeps of the screen is from before the last monitor came or went.
+    XErrorTrap trap;
+    XWindowAttributes root = {};
+    XGetWindowAttributes(DisplayId, DefaultRootWindow(DisplayId), &root);
+    const int64_t seen = int64_t{root.width} * root.height;
+    return static_cast<int>(std::clamp<int64_t>(seen, alwaysAllowedPixels, mostPixels));
+}
+
 void CXRenderWindow::SetSize(int width, int height)
 {
     width = std::min(width, longestSide);
-    height = std::min({height, longestSide, mostPixels / std::max(width, 1)});
+    height = std::min(height, longestSide);
+    if (int64_t{width} * height > alwaysAllowedPixels)
+    {
+        height = std::min(height, GetMostPixels() / width);
+    }
     if (Size[0] == width && Size[1] == height)
     {
         return;

@@ -62,6 +62,7 @@ private:
     bool CreateWindows();
     bool PlaceInParent();
     void ChooseWayToScreen();
+    int GetMostPixels() const;
     void PutPicture();
 
     std::shared_ptr<XConnection> Connection;

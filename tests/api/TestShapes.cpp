@@ -1,9 +1,6 @@
 // What distinguishes the shapes, as a host sees them: which numbers they take, refuse, fold and
 // hide.
-#include "TarvexExt.h"
 #include "support/ViewFixture.h"
-
-#include <cmath>
 
 namespace
 {
@@ -24,21 +21,11 @@ int32_t AddByPoint(int32_t view, double x, double y, double z, double nx, double
                                : status;
 }
 
-int32_t AddWithSize(int32_t view, double x, double y, double z, double size, int32_t* id)
-{
-    const int32_t status = Tarvex_Element_Add_Point(view, x, y, z, id);
-    return status == STATUS_OK ? Tarvex_Element_Point_SetValue(view, *id, x, y, z, size) : status;
-}
-
 Kind Make(const Numbers& good, const Export& add, const Export& set, const Export& get)
 {
     return {good, add, set, get};
 }
 
-const Kind point =
-    Make({0, 20, 0, 3}, AddWithSize, Tarvex_Element_Point_SetValue, Tarvex_Element_Point_GetValue);
-const Kind circle = Make({0, 20, 0, 5, 0, 0, 1}, Tarvex_Element_Add_Circle,
-                         Tarvex_Element_Circle_SetValue, Tarvex_Element_Circle_GetValue);
 const Kind ellipse = Make({0, 20, 0, 5, 3, 30}, Tarvex_Element_Add_Ellipse,
                           Tarvex_Element_Ellipse_SetValue, Tarvex_Element_Ellipse_GetValue);
 const Kind plane = Make({-1, 0, 0, 1}, Tarvex_Element_Add_Plane, Tarvex_Element_Plane_SetValue2,
@@ -57,107 +44,7 @@ protected:
     {
         EXPECT_EQ(Call(kind.Set, element, values), STATUS_OK);
     }
-    // A visible prop far away would leave it without usable numbers for good.
-    void ExpectNearCamera() const
-    {
-        EXPECT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
-        const Numbers camera = Read(Tarvex_Window_Camera_GetPosition);
-        EXPECT_LT(std::hypot(camera[0], camera[1], camera[2]), 300.0);
-    }
-    // Added, and set after good values.
-    void ExpectValidity(const Kind& kind, const Numbers& values, bool valid) const
-    {
-        SCOPED_TRACE(testing::PrintToString(values));
-        const int32_t added = Add(kind.Add, values);
-        const int32_t changed = Add(kind.Add, kind.Good);
-        EXPECT_EQ(Read(kind.Get, changed), kind.Good);
-        Set(kind, changed, values);
-        EXPECT_EQ(IsValid(added), valid);
-        EXPECT_EQ(IsValid(changed), valid);
-        Numbers told = values; // the raw normal among them, but no size that is too small
-        if (&kind == &point && !(told.back() >= 0.001))
-        {
-            told.back() = kind.Good.back();
-        }
-        EXPECT_TRUE(valid || Read(kind.Get, changed) == told);
-        ExpectNearCamera();
-        Tarvex_Element_Remove(Id, added);
-        Tarvex_Element_Remove(Id, changed);
-    }
 };
-
-TEST_F(Shapes, AreInvalidWithUnusableNumbersAndNeverSpoilTheCamera)
-{
-    Tarvex_Element_SetSize(Id, AddPoint(0, 0, 0), 5);
-    TarvexExt_Window_BeginUpdate(Id);
-    for (const Kind* kind : {&point, &circle, &ellipse, &plane, &planeByPoint, &rectangle, &cube})
-    {
-        for (size_t at = 0; at < kind->Good.size(); ++at)
-        {
-            Numbers values = kind->Good;
-            const bool isRadius =
-                (kind == &circle || kind == &ellipse) && values[at] > 0 && at >= 3 && at <= 4;
-            for (const double number : {Marker, -Marker, std::numeric_limits<double>::min(), 1e300,
-                                        -1e31, Infinity, -Infinity})
-            {
-                values[at] = number;
-                const bool isMarker = std::abs(number) == Marker || std::abs(number) < 1;
-                ExpectValidity(*kind, values, !isMarker && !(isRadius && number < 0));
-            }
-        }
-    }
-    TarvexExt_Window_EndUpdate(Id);
-    EXPECT_GT(CountLit(), 100);
-}
-
-TEST_F(Shapes, AndBoxesFarTooLargeLeaveTheOthersVisible)
-{
-    Tarvex_Element_SetSize(Id, AddPoint(0, 0, 0), 5);
-    const double line = AddLine(0, 0, 0, 0, 1, 0);
-    for (const double huge : {1e35, 1e300, Infinity})
-    {
-        const std::pair<Export, Numbers> calls[] = {
-            {Tarvex_Element_SetSize, {line, huge}},
-            {Tarvex_Element_Line_SetValue, {line, -huge, 0, 99, 1, 0, 99}},
-            {Tarvex_Element_Line_SetValue, {line, 0, 0, 99, 0, huge, 99}},
-            {Tarvex_Element_SetLength_Line, {line, -huge, huge}},
-            {Tarvex_Element_SetDrawLimit_Line, {line, -huge, huge, -huge, huge, -huge, huge}},
-            {Tarvex_Window_SetDrawSpace, {-huge, huge, -huge, huge, -huge, huge}},
-            {Tarvex_Element_Add_Line, {0, huge, 0, 1, 0, 0}},
-            {Tarvex_Element_Add_Line, {0, 0, 0, huge, 1, 0}}};
-        for (const auto& [function, given] : calls)
-        {
-            SCOPED_TRACE(testing::PrintToString(given));
-            EXPECT_EQ(Call(function, given), STATUS_OK);
-            ExpectNearCamera();
-            EXPECT_GT(CountLit(), 100);
-            Tarvex_Window_SetDrawSpace(Id, -5, 5, -5, 5, -5, 5);
-            Tarvex_Element_Line_SetValue(Id, 1, 0, 0, 0, 0, 1, 0);
-        }
-    }
-}
-
-TEST_F(Shapes, AreInvalidBelowTheirLeastExtents)
-{
-    // What is just valid, and what is not.
-    const std::tuple<const Kind&, Numbers, Numbers> cases[] = {
-        {circle, {0, 0, 0, 1e-9, 0, 0, 1}, {0, 0, 0, 9e-10, 0, 0, 5}},
-        {circle, {0, 0, 0, 1, 0, 2e-6, 0}, {0, 0, 0, 1, 0, 9e-7, 0}},
-        {ellipse, {0, 0, 0, 1e-9, 1e-9, 0}, {0, 0, 0, 9e-10, 1, 0}},
-        {ellipse, {0, 0, 0, 1, 1e-9, 0}, {0, 0, 0, 1, 9e-10, 0}},
-        {plane, {0, 2e-6, 0, 0}, {0, 9e-7, 0, 0}},
-        {planeByPoint, {0, 0, 0, 0, 0, 2e-6}, {0, 0, 0, 0, 0, 9e-7}},
-        {rectangle, {0, 0, 0, 0, -5, 0}, {0, 0, 0, 9e-7, -9e-7, 0}},
-        {rectangle, {0, 0, 0, 1e-6, 0, 0}, {0, 0, 0, 0, 0, 0}},
-        {cube, {0, 0, 0, 0, 0, -1e-6, 0}, {0, 0, 0, 1e-7, -1e-7, 9e-7, 200}}};
-    for (const auto& [kind, least, below] : cases)
-    {
-        ExpectValidity(kind, least, true);
-        ExpectValidity(kind, below, false);
-    }
-    Read(Tarvex_Element_GetColor, Add(circle.Add, {NaN}), STATUS_INVALID_VALUES);
-    Read(Tarvex_Element_GetColor, Add(ellipse.Add, {NaN}));
-}
 
 TEST_F(Shapes, FoldTheirAngleOnlyInTheAddOfValidValues)
 {
@@ -232,15 +119,8 @@ TEST_F(Shapes, PolyhedronRefusesWhatHasNoShape)
 {
     // Three points, and an axis of height 1.
     const Numbers good = {3, 0, 8, 0, 0, 0, 0, 8, 0, 0, 8, 0, 0, 0, 0, 1, 1};
-    Numbers counted = good;
-    for (const auto& [count, status] : {std::pair(2, STATUS_TOO_SMALL), {251, STATUS_OUT_OF_RANGE}})
-    {
-        counted[0] = count;
-        EXPECT_EQ(Call(Tarvex_Element_Add_Polyhedron, counted), status);
-    }
     const int32_t element = Add(Tarvex_Element_Add_Polyhedron, good);
     EXPECT_EQ(Tarvex_Element_Polyhedron_RemovePoint(Id, element, 0), STATUS_TOO_SMALL);
-    EXPECT_EQ(Tarvex_Element_Polyhedron_InsertPoint(Id, element, 4, 0, 0, 0), STATUS_BAD_INDEX);
     // Once spoilt, only SetValue makes it valid again.
     EXPECT_EQ(Tarvex_Element_Polyhedron_SetHeight(Id, element, NaN), STATUS_OK);
     EXPECT_EQ(Tarvex_Element_Polyhedron_SetHeight(Id, element, 1), STATUS_OK);

@@ -54,16 +54,4 @@ TEST_F(AView, KeepsItsPositionWhenEitherCoordinateIsNegative)
     }
 }
 
-TEST_F(AView, TakesOnlyBoxesWithAnExtentOnEachAxis)
-{
-    const Numbers least = {0, 1e-6, -2, 3, -4, 5};
-    EXPECT_EQ(Read(Tarvex_Window_GetDrawSpace), (Numbers{-50, 50, -50, 50, -50, 50}));
-    EXPECT_EQ(Call(Tarvex_Window_SetDrawSpace, least), STATUS_OK);
-    for (const Numbers& flat :
-         {Numbers{1, 1, -5, 5, -5, 5}, {-5, 5, 5, -5, -5, 5}, {0, 1, 0, 1, 0, 0.9e-6}})
-    {
-        EXPECT_EQ(Call(Tarvex_Window_SetDrawSpace, flat), STATUS_TOO_SMALL);
-        EXPECT_EQ(Read(Tarvex_Window_GetDrawSpace), least) << testing::PrintToString(flat);
-    }
-}
 } // namespace

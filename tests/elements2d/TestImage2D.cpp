@@ -200,11 +200,7 @@ TEST_F(Image2D, IsTheOnlyOneAndKeepsItsStateWhenAChangeFails)
         uint32_t Palette;
         int32_t Status;
         int FailingAllocation = 0;
-    } changes[] = {{nullptr, 1, 2, 0, 0, 9, STATUS_NULL_ARGUMENT},
-                   {pixels.data(), 1, 2, 0, 0, 9, STATUS_TOO_SMALL},
-                   {pixels.data(), 2, 2, 1e-11, 1, 1, STATUS_OUT_OF_RANGE},
-                   {pixels.data(), 2, 2, 1, -1, 1, STATUS_OUT_OF_RANGE},
-                   {pixels.data(), 65536, 65536, 1, 1, 7, STATUS_OUT_OF_RANGE},
+    } changes[] = {{pixels.data(), 65536, 65536, 1, 1, 7, STATUS_OUT_OF_RANGE},
                    {pixels.data(), 65536, 32768, 1, 1, 1, STATUS_OUT_OF_MEMORY},
                    {pixels.data(), 9, 8, 1, 1, 1, STATUS_OUT_OF_MEMORY, 1},
                    {pixels.data(), 9, 8, 1, 1, 3, STATUS_OK}};
@@ -224,7 +220,6 @@ TEST_F(Image2D, IsTheOnlyOneAndKeepsItsStateWhenAChangeFails)
         StopFailing();
         EXPECT_EQ(Image, status == STATUS_OK ? 0 : -1);
     }
-    EXPECT_EQ(Tarvex_Element2D_SetPalette_Image(Id, 0, 7), STATUS_OUT_OF_RANGE);
     EXPECT_EQ(Read(Tarvex_Element2D_GetPalette_Image, 0), Numbers{3});
     Tarvex_Element2D_SetSize(Id, 0, 4.0);
     EXPECT_EQ(Read(Tarvex_Element2D_GetSize, 0, STATUS_WRONG_TYPE), Numbers{4});

@@ -172,43 +172,14 @@ TEST_F(Profiles2D, KeepDoublesAsGivenAndDrawOnlyWhatAFloatHolds)
     EXPECT_EQ(GetPlot(3)->GetInput()->GetColumnName(1), std::string(255, 'n'));
 }
 
-TEST_F(Profiles2D, AnswerWrongArgumentsInTheirOrderAndChangeNothing)
+TEST_F(Profiles2D, WithoutASampleCannotBeChangedAnyMore)
 {
-    const double x[] = {1, 2};
     const int16_t z[] = {1, 2};
     const int16_t gaps[] = {Gap, Gap};
-    const int32_t most = std::numeric_limits<int32_t>::max();
-    int32_t other = 77;
-    EXPECT_EQ(Tarvex_Element2D_Add_ProfileUniform(Id, gaps, 2, 1, 1, 0, 0, &other),
-              STATUS_NOT_READY);
-    EXPECT_EQ(other, TARVEX_NONE);
-    AddKor({1, 2, 3});
-    const int32_t id = Id;
-    const int32_t e = Element;
-    const std::pair<int32_t, int32_t> answers[] = {
-        {Tarvex_Element2D_Add_ProfileNonUniform_GeneralData(id, x, x, nullptr, 0, &other, nullptr),
-         STATUS_TOO_SMALL},
-        {Tarvex_Element2D_Add_ProfileNonUniform_KorData(id, nullptr, z, 1, NaN, 1, 0, 0, &other,
-                                                        nullptr),
-         STATUS_NULL_ARGUMENT},
-        {Tarvex_Element2D_Add_ProfileNonUniform_KorData(id, z, z, 1, NaN, 1, 0, 0, &other, nullptr),
-         STATUS_TOO_SMALL},
-        {Tarvex_Element2D_Add_ProfileUniform(id, z, 2, 1, 1, NaN, 0, &other), STATUS_NOT_FINITE},
-        {Tarvex_Element2D_ProfileNonUniform_SetValue_KorData(id, e, most, z, z, 1, 1, 0, 0),
-         STATUS_OUT_OF_MEMORY},
-        {Tarvex_Element2D_ProfileNonUniform_AttachValues_KorData(id, e, most, z, z, 1, 1, 0, 0),
-         STATUS_OUT_OF_MEMORY},
-        {Tarvex_Element2D_ProfileUniform_SetValue(id, e, 2, z, 1, 1, 0, 0), STATUS_WRONG_TYPE},
-    };
-    for (const auto& [answer, expected] : answers)
-    {
-        EXPECT_EQ(answer, expected) << &answer - &answers[0].first;
-    }
-    EXPECT_EQ(Rows(), std::vector<int>{3});
-    EXPECT_THAT(ReadProfile().Y, ElementsAre(1, 2, 3));
-    ASSERT_EQ(Tarvex_Element2D_Add_ProfileUniform(id, z, 2, 1, 1, 0, 0, &other), STATUS_OK);
-    EXPECT_EQ(Tarvex_Element2D_ProfileUniform_SetValue(id, other, 2, gaps, 1, 1, 0, 0), STATUS_OK);
-    EXPECT_EQ(Tarvex_Element2D_ProfileUniform_SetValue(id, other, 2, z, 1, 1, 0, 0),
+    EXPECT_EQ(Tarvex_Element2D_Add_ProfileUniform(Id, z, 2, 1, 1, 0, 0, &Element), STATUS_OK);
+    EXPECT_EQ(Tarvex_Element2D_ProfileUniform_SetValue(Id, Element, 2, gaps, 1, 1, 0, 0),
+              STATUS_OK);
+    EXPECT_EQ(Tarvex_Element2D_ProfileUniform_SetValue(Id, Element, 2, z, 1, 1, 0, 0),
               STATUS_NOT_READY);
 }
 

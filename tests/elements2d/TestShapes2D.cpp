@@ -78,7 +78,7 @@ protected:
     }
 };
 
-TEST_F(Shapes2D, TakeRefuseOrHideTheirValues)
+TEST_F(Shapes2D, KeepOrHideTheirValues)
 {
     constexpr bool add = false;
     constexpr bool set = true; // after an add with good values
@@ -88,31 +88,25 @@ TEST_F(Shapes2D, TakeRefuseOrHideTheirValues)
         bool IsSet;
         Numbers Given;
         int32_t Status;
-        bool Valid = true;
-        Numbers Values = {};
+        bool Valid;
+        Numbers Values;
     } cases[] = {
         {point, add, {NaN, 4}, STATUS_OK, false, {NaN, 4}},
         {line, add, {1, 2, 0, 5}, STATUS_OK, true, {1, -8, 1, 12}},
         {line, add, {1, 2, 0, 0.9e-6}, STATUS_OK, false, {1, 2, 1, 2}},
-        {line, add, {1, 2, 0, 1.1e-6}, STATUS_OK, true, {1, -8, 1, 12}},
         {twoPoints, add, {1, 2, 4, 6, 1}, STATUS_OK, true, {1, 2, 4, 6}},
         {twoPoints, add, {1, 2, 4, 6, 0}, STATUS_OK, true, {-5, -6, 7, 10}},
         {twoPoints, add, {1, 2, 1, 2, 0}, STATUS_OK, false, {1, 2, 1, 2}},
         {twoPoints, set, {5, 5, 5, 5, 0}, STATUS_TOO_SMALL, true, {1, 2, 3, 4}},
         {twoPoints, set, {1, 2, 1, 2, 1}, STATUS_OK, true, {1, 2, 1, 2}}, // a dot
-        {circle, add, {1, 2, 0.9e-9}, STATUS_INVALID_VALUES},
         {circle, add, {1, 2, Infinity}, STATUS_OK, true, {1, 2, Infinity}},
         {circle, set, {1, 2, -1}, STATUS_OK, false, {1, 2, -1}},
-        {ellipse, add, {1, 2, 5, 0.9e-9, 0}, STATUS_OK, false, {1, 2, 5, 0, 0}},
         {ellipse, set, {1, 2, 20, 5, NaN}, STATUS_OK, false, {1, 2, 20, 5, NaN}},
         {ellipse, set, {1, 2, 3, 5, -10}, STATUS_OK, true, {1, 2, 3, 5, 350}},
-        {rectangle, add, {0, 0, 0, 5, 0}, STATUS_TOO_SMALL},
-        {rectangle, add, {0, 0, 0, 0, 0}, STATUS_NOT_FINITE},
         {rectangle, add, {0, 0, -1, 2, 190}, STATUS_OK, true, {0, 0, -1, 2, -170}},
         {rectangle, add, {0, 0, 1, 2, 360e15 - 90}, STATUS_OK, true, {0, 0, 1, 2, -64}}, // rounded
         {rectangle, set, {0, 0, 0, 5, 0}, STATUS_OK, false, {0, 0, 0, 5, 0}},
         {rectangle, set, {0, 0, 1, 5, 190}, STATUS_OK, true, {0, 0, 1, 5, 190}},
-        {polygon, add, {2, 5, 6, 0, 0, 7, 8, 0, 0, 1}, STATUS_TOO_SMALL},
         {polygon, add, {2, 5, 6, 0, 0, 7, 8, 0, 0, 0}, STATUS_OK, true, {5, 7, 0}},
         {polygon, add, {3, 5, 6, 1, 0, 7, 8, NaN, 0, 1}, STATUS_OK, false, {5, 7, 1}}};
     int32_t next = 0;
@@ -126,20 +120,13 @@ TEST_F(Shapes2D, TakeRefuseOrHideTheirValues)
         }
         else
         {
-            Numbers id;
-            EXPECT_EQ(shape.Add.Perform(Id, given, id), status);
-            const bool kept = &shape == &circle || &shape == &rectangle;
-            EXPECT_EQ(id[0], status == STATUS_OK ? next++ : kept ? 77 : TARVEX_NONE);
+            EXPECT_EQ(Add(shape.Add, given), next++);
         }
-        EXPECT_EQ(Read(Tarvex_Element2D_GetCount)[0], next);
-        if (!values.empty())
-        {
-            EXPECT_EQ(IsValid(next - 1), valid);
-            EXPECT_EQ(TopPlot()->GetVisible(), valid);
-            EXPECT_THAT(Read(shape.GetValue, next - 1), Near(values));
-            EXPECT_EQ(Call(shape.SetValue, next - 1, shape.Given), STATUS_OK);
-            EXPECT_TRUE(IsValid(next - 1) && TopPlot()->GetVisible()) << "again";
-        }
+        EXPECT_EQ(IsValid(next - 1), valid);
+        EXPECT_EQ(TopPlot()->GetVisible(), valid);
+        EXPECT_THAT(Read(shape.GetValue, next - 1), Near(values));
+        EXPECT_EQ(Call(shape.SetValue, next - 1, shape.Given), STATUS_OK);
+        EXPECT_TRUE(IsValid(next - 1) && TopPlot()->GetVisible()) << "again";
     }
 }
 
@@ -161,7 +148,6 @@ TEST_F(Shapes2D, CutLinesWithoutEndsToTheDrawSpace)
         EXPECT_THAT(Drawn(Add(line.Add, each.Given)), Near(each.Drawn));
     }
     const int32_t segment = Add(twoPoints.Add, {-80, 0, 80, 0, 1});
-    EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, 0, 0.1, 0, 5), STATUS_TOO_SMALL);
     EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, 0, 0.2, 5, 5), STATUS_OK) << "not for the lines";
     EXPECT_EQ(Read(Tarvex_Window2D_GetDrawSpace), (Numbers{0, 0.2, 5, 5}));
     EXPECT_THAT(Drawn(0), Near(cases[0].Drawn));
@@ -196,8 +182,6 @@ TEST_F(Shapes2D, EditPolygonsPointByPoint)
 {
     const int32_t element = AddActive(polygon, polygon.Given);
     EXPECT_EQ(Call(Tarvex_Element2D_Polygon_InsertPoint, element, {4, 2, 2}), STATUS_OK);
-    EXPECT_EQ(Call(Tarvex_Element2D_Polygon_InsertPoint, element, {6, 1, 2}), STATUS_BAD_INDEX);
-    EXPECT_EQ(Call(Tarvex_Element2D_Polygon_ChangePoint, element, {5, 1, 2}), STATUS_BAD_INDEX);
     EXPECT_EQ(Call(Tarvex_Element2D_Polygon_ChangePoint, element, {0, -1, -2}), STATUS_OK);
     EXPECT_EQ(Call(Tarvex_Element2D_Polygon_RemovePoint, element, {1}), STATUS_OK);
     EXPECT_THAT(Drawn(element), Near({-1, -2, 4, 4, 0, 4, 2, 2, -1, -2}));

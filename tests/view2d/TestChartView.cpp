@@ -57,7 +57,6 @@ TEST_F(ChartViews, HaveTwoLayouts)
     { return static_cast<int>(Axis(vtkAxis::LEFT)->GetGridPen()->GetColor()[0]); };
     EXPECT_EQ(grid(), 50);
     EXPECT_EQ(Tarvex_Window2D_SetBackgroundColor(Id, 255, 0, 0), STATUS_OK);
-    EXPECT_EQ(Tarvex_Window2D_SetChartLayout(Id, 2), STATUS_OUT_OF_RANGE);
     EXPECT_EQ(View().GetRenderer()->GetBackground()[0], 1.0);
     EXPECT_EQ(View().GetRenderer()->GetBackground()[1], 0.0);
     EXPECT_EQ(Tarvex_Window2D_SetChartLayout(Id, TARVEX_CHART_LIGHT), STATUS_OK);
@@ -77,7 +76,6 @@ TEST_F(ChartViews, DrawOnceForEachCallThatPromisesIt)
         {[&] { return Tarvex_Window2D_UpdateSize(Id, 0, 0, Pixels, Pixels); }, 0},
         {[&] { return Tarvex_Window2D_SetChartLayout(Id, 1); }, 0},
         {[&] { return Tarvex_Element2D_Add_Circle(Id, 0, 0, 5, &id); }, 1},
-        {[&] { return Tarvex_Element2D_Circle_SetValue(Id, id, 0, 0, 6); }, 1},
         {[&] { return Tarvex_Element2D_Show(Id, id, 0); }, 0},
         {[&] { return Tarvex_Element2D_SetColor(Id, id, 1, 2, 3); }, 1},
         {[&] { return Tarvex_Element2D_Add_ProfileUniform(Id, samples, 3, 1, 1, 0, 0, &id); }, 1},
