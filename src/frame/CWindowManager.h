@@ -160,11 +160,11 @@ private:
     template <class Action>
     int32_t Locked(Action&& action)
     {
-        // All three inside the guard: an exception leaves them first.
+        // The guard writes LastError. The other two are inside it: an exception leaves them first.
+        CCriticalSection lock(&GlobalLock);
         return Guarded(LastError,
                        [&]() -> int32_t
                        {
-                           CCriticalSection lock(&GlobalLock);
                            MessageCapture messages;
                            Platform::CallScope scope;
                            return action();

@@ -11,12 +11,32 @@
 
 namespace
 {
+// Null: a connection of the host's.
 XConnection* FindOwner(Display* display)
 {
+    if (X11->TrapThread != std::this_thread::get_id())
+    {
+        return nullptr;
+    }
     const auto found =
         std::find_if(X11->Connections.begin(), X11->Connections.end(),
                      [display](XConnection* connection) { return connection->Owns(display); });
     return found == X11->Connections.end() ? nullptr : *found;
+}
+
+template <class Handler>
+void Keep(std::atomic<Handler>& kept, Handler handler)
+{
+    kept = handler;
+    kept.notify_all();
+}
+
+// Ours is in place a moment before it is known whose place it took.
+template <class Handler>
+Handler WaitFor(const std::atomic<Handler>& kept)
+{
+    kept.wait(nullptr);
+    return kept;
 }
 
 int OnError(Display* display, XErrorEvent* event)
@@ -26,7 +46,7 @@ int OnError(Display* display, XErrorEvent* event)
         ++X11->ErrorCount;
         return 0;
     }
-    return X11->HostErrorHandler(display, event);
+    return WaitFor(X11->HostErrorHandler)(display, event);
 }
 
 int OnIOError(Display* display)
@@ -36,7 +56,7 @@ int OnIOError(Display* display)
         owner->MarkBroken();
         return 0;
     }
-    return X11->HostIOErrorHandler(display);
+    return WaitFor(X11->HostIOErrorHandler)(display);
 }
 
 // Nothing is sent any more over a broken connection, and a request that finds no room in the buffer
@@ -207,8 +227,9 @@ XErrorTrap::XErrorTrap() : Before(X11->ErrorCount)
 {
     if (X11->TrapDepth++ == 0)
     {
-        X11->HostErrorHandler = XSetErrorHandler(OnError);
-        X11->HostIOErrorHandler = XSetIOErrorHandler(OnIOError);
+        X11->TrapThread = std::this_thread::get_id();
+        Keep(X11->HostErrorHandler, XSetErrorHandler(OnError));
+        Keep(X11->HostIOErrorHandler, XSetIOErrorHandler(OnIOError));
         X11->HoldsPipeSignal = HoldPipeSignal();
     }
 }
@@ -219,6 +240,7 @@ XErrorTrap::~XErrorTrap()
     {
         XSetErrorHandler(X11->HostErrorHandler);
         XSetIOErrorHandler(X11->HostIOErrorHandler);
+        X11->TrapThread = std::thread::id();
         if (X11->HoldsPipeSignal)
         {
             DropPipeSignal();

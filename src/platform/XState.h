@@ -6,8 +6,10 @@
 
 #include <GL/glx.h>
 
+#include <atomic>
 #include <map>
 #include <optional>
+#include <thread>
 #include <vector>
 
 class CXRenderWindow;
@@ -21,8 +23,11 @@ struct XState
 
     unsigned long ErrorCount = 0;
     int TrapDepth = 0;
-    XErrorHandler HostErrorHandler = nullptr;
-    XIOErrorHandler HostIOErrorHandler = nullptr;
+    // Our handlers hear of the errors on all threads of the host, without the global lock. Those of
+    // our connections come on the thread whose trap it is.
+    std::atomic<std::thread::id> TrapThread;
+    std::atomic<XErrorHandler> HostErrorHandler = nullptr;
+    std::atomic<XIOErrorHandler> HostIOErrorHandler = nullptr;
     bool HoldsPipeSignal = false;
 
     // The views by their native window: whom an event is for. Not those that are lost.

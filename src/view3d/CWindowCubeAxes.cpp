@@ -78,6 +78,20 @@ bool IsSelection(int32_t selection, int32_t part)
     return selection >= 0 && selection <= 3 && part >= 0;
 }
 
+// VTK steps from tick to tick through its numbers and counts them from zero with 32 bits: far away,
+// a small extent would take it for ever. Such an axis is drawn a little longer, by what the single
+// precision of a picture loses there anyway; a flat one stays flat as long as steps of 1 are steps.
+void KeepCountable(double& min, double& max)
+{
+    const double magnitude = std::max(std::abs(min), std::abs(max));
+    const bool isFlat = min == max && magnitude < 1e12;
+    if (!isFlat && max - min < 1e-8 * magnitude)
+    {
+        min -= 5e-7 * magnitude;
+        max += 5e-7 * magnitude;
+    }
+}
+
 vtkSmartPointer<CCubeAxesActor> MakeCubeAxes(vtkCamera* camera, const double bounds[6])
 {
     const auto cube = vtkSmartPointer<CCubeAxesActor>::New();
@@ -149,6 +163,9 @@ int32_t CWindow::Cube_Add_Resize(int32_t elementId, double xmin, double xmax, do
             {
                 return STATUS_OUT_OF_RANGE;
             }
+            KeepCountable(xmin, xmax);
+            KeepCountable(ymin, ymax);
+            KeepCountable(zmin, zmax);
             const double bounds[] = {xmin, xmax, -ymax, -ymin, zmin, zmax};
             if (CubeAxes)
             {
