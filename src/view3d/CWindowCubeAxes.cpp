@@ -230,7 +230,9 @@ int32_t CWindow::Cube_Visibility(int32_t selection, int32_t part, bool visible)
             {
                 if (IsSelected(selection, axis) && part < static_cast<int32_t>(std::size(switches)))
                 {
-                    (CubeAxes->*switches[part][axis])(visible);
+                    // Apart: GCC's bounds check of both in one takes a wrong index.
+                    const Switch change = switches[part][axis];
+                    (CubeAxes->*change)(visible);
                 }
             }
             return STATUS_OK;
