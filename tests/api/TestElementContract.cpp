@@ -147,7 +147,7 @@ TEST_P(EachKind, DisappearsWhileHidden)
 TEST_P(EachKind, IsOutOfSightWithUnusableValues)
 {
     const int32_t element = AddAt(GetParam().IsMeasured() ? 0 : NaN);
-    for (const double y : {0.0, Marker, 0.0})
+    for (const double y : {0.0, GetParam().IsMeasured() ? 0.0 : Marker, 0.0})
     {
         EXPECT_EQ(CountLit() > 0, GetParam().IsMeasured() || IsValid(element));
         EXPECT_EQ(Call(GetParam().SetValue, element, GetParam().At(y)), STATUS_OK);
