@@ -18,7 +18,8 @@
  *   destroyed the parent. Counting and listing views and elements, deleting views, registering
  *   callbacks, element types and element defaults work without one.
  * - STATUS_OUT_OF_MEMORY: memory ran out, or an array would be larger than can be held. A failed
- *   change leaves the element as it was.
+ *   change leaves the element as it was. If only its picture failed, the change is made, and the
+ *   next render shows it. A failed add leaves no element either way.
  * - STATUS_EXCEPTION: something below failed in an unforeseen way; the operation may be half done.
  *
  * Ids. 3D views and chart views count separately, elements count within their view, all from 0 up;

@@ -64,7 +64,7 @@ vtkSmartPointer<vtkPoints> CElementProfile::MakePoints() const
         point[1] = y;
         point[2] = static_cast<float>(Z.Place(ZValues[sample]));
     }
-    const auto points = vtkSmartPointer<vtkPoints>::New();
+    auto points = vtkSmartPointer<vtkPoints>::New();
     points->SetData(coordinates);
     return points;
 }

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <type_traits>
 
 #include <vtkSmartPointer.h>
 
@@ -109,6 +110,10 @@ private:
     void SetRange(SurfaceMapper& mapper, const Data& data, const Ranges& ranges,
                   Channel channel) const;
     vtkSmartPointer<vtkLookupTable> MakeLookupTable(int32_t palette) const;
+    // Gives a field on which the colours depend a new value, and the colours of the palette in
+    // force anew. Throws std::bad_alloc, with nothing changed.
+    template <class Field>
+    void Recolor(Field& field, std::type_identity_t<Field>&& value);
     // Into the scene, beside the present actor. Throws std::bad_alloc, with the scene unchanged.
     void EnterScene(vtkActor* actor) const;
     // Puts a finished pipeline, which is in the scene already, in the place of the present one.

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <new>
+#include <utility>
 
 #include <vtkLookupTable.h>
 #include <vtkScalarBarActor.h>
@@ -158,10 +159,25 @@ int32_t CElement_Surface<Samples>::ConnectScalarBar(vtkScalarBarActor* bar)
 }
 
 template <class Samples>
+template <class Field>
+void CElement_Surface<Samples>::Recolor(Field& field, std::type_identity_t<Field>&& value)
+{
+    std::swap(field, value);
+    try
+    {
+        ApplyPalette(GetPalette(Shown));
+    }
+    catch (const std::bad_alloc&)
+    {
+        std::swap(field, value);
+        throw;
+    }
+}
+
+template <class Samples>
 int32_t CElement_Surface<Samples>::SetBackgroundColor(double red, double green, double blue)
 {
-    CElement_Scene::SetBackgroundColor(red, green, blue);
-    ApplyPalette(GetPalette(Shown));
+    Recolor(BackgroundColor, {red, green, blue});
     return STATUS_OK;
 }
 
@@ -172,21 +188,14 @@ int32_t CElement_Surface<Samples>::SetTransparency(double transparency)
     {
         return STATUS_OUT_OF_RANGE;
     }
-    Transparency = transparency;
-    ApplyPalette(GetPalette(Shown));
+    Recolor(Transparency, double{transparency});
     return STATUS_OK;
 }
 
 template <class Samples>
 int32_t CElement_Surface<Samples>::SetColor(uint8_t red, uint8_t green, uint8_t blue)
 {
-    Color[0] = red;
-    Color[1] = green;
-    Color[2] = blue;
-    if (GetPalette(Shown) == SingleColorPalette)
-    {
-        ApplyPalette(SingleColorPalette);
-    }
+    Recolor(Color, {red, green, blue});
     return STATUS_OK;
 }
 

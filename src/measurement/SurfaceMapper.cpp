@@ -26,6 +26,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
+#include <utility>
 
 vtkStandardNewMacro(SurfaceMapper);
 
@@ -135,7 +137,16 @@ void SurfaceMapper::BuildColors()
     // to it the sign that the surface is coloured by a texture, so it is given one scalar.
     vtkNew<vtkDoubleArray> scalar;
     scalar->InsertNextValue(range[0]);
-    this->MapScalarsToTexture(scalar, 1.0);
+    try
+    {
+        this->MapScalarsToTexture(scalar, 1.0);
+    }
+    catch (const std::bad_alloc&)
+    {
+        // It would take an image without colours for one that is up to date.
+        vtkSmartPointer<vtkImageData>::Take(std::exchange(this->ColorTextureMap, nullptr));
+        throw;
+    }
     if (!this->InternalColorTexture)
     {
         vtkNew<vtkOpenGLTexture> texture;

@@ -22,9 +22,9 @@ namespace
 {
 // Above the size of any wall of screens, below what the X server and OpenGL take.
 constexpr int longestSide = 16384;
-// The next picture costs thirty bytes for each pixel.
+// The next picture costs some fifty bytes for each pixel.
 constexpr int mostPixels = 36'000'000;
-constexpr int alwaysAllowedPixels = 4'000'000;
+constexpr int alwaysAllowedPixels = 1920 * 1200;
 
 constexpr long eventMask = ButtonPressMask | ButtonReleaseMask | PointerMotionMask |
                            EnterWindowMask | LeaveWindowMask | ExposureMask | StructureNotifyMask;
@@ -272,13 +272,18 @@ void CXRenderWindow::Start()
     if (IsUsable())
     {
         Superclass::Start();
+        ++Begun;
+        // The frame buffers have this size from now on, also if the picture is never finished.
+        PictureSize[0] = Size[0];
+        PictureSize[1] = Size[1];
     }
 }
 
 void CXRenderWindow::End()
 {
-    if (IsUsable())
+    if (IsUsable() && Begun > 0)
     {
+        --Begun;
         Superclass::End();
     }
 }
@@ -351,8 +356,6 @@ void CXRenderWindow::Render()
         End();
         throw;
     }
-    PictureSize[0] = Size[0];
-    PictureSize[1] = Size[1];
 }
 
 void CXRenderWindow::MakeCurrent()

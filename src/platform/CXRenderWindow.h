@@ -80,6 +80,7 @@ private:
     bool CanPutPictures = false;
     XPicture Screen;
     bool Lost = false;
+    int Begun = 0; // pictures not ended yet: VTK ends the process at an end too many
     int Holds = 0;
     bool RenderHeld = false;     // asked for while held
     int PictureSize[2] = {0, 0}; // 0, 0 before the first render

@@ -4,9 +4,9 @@
 #include "interaction2d/CElement2D_Drawn.h"
 #include "interaction2d/MyDefaultInteractorStyle2D.h"
 #include "interaction2d/MyDrawInteractorStyle2D.h"
+#include "view2d/CChartActor.h"
 
 #include <vtkAxis.h>
-#include <vtkContextActor.h>
 #include <vtkContextScene.h>
 #include <vtkNew.h>
 #include <vtkOpenGLRenderer.h>
@@ -42,7 +42,7 @@ int32_t CWindow2D::Create(bool noBorders, void* parentWindow, int32_t x, int32_t
     return Guarded(LastError,
                    [&]() -> int32_t
                    {
-                       vtkNew<vtkContextActor> actor;
+                       vtkNew<CChartActor> actor;
                        Chart = vtkSmartPointer<CImageChart>::New();
                        Scene = actor->GetScene();
                        Scene->AddItem(Chart);

@@ -9,7 +9,11 @@
 #include <vtkStringArray.h>
 #include <vtkVectorText.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <utility>
 
 vtkStandardNewMacro(CInvertedAxisActor);
 vtkStandardNewMacro(CCubeAxesActor);
@@ -100,6 +104,20 @@ void CCubeAxesActor::Set_InvertAxisLabellingY(bool invert)
     {
         GetYAxis(position)->SetInverted(invert);
     }
+    Modified();
+}
+
+void CCubeAxesActor::SetText(char*& text, const char* value)
+{
+    if (text && std::strcmp(text, value) == 0)
+    {
+        return;
+    }
+    const size_t size = std::strlen(value) + 1;
+    auto copy = std::make_unique<char[]>(size);
+    std::copy_n(value, size, copy.get());
+    // The base class frees what it then holds.
+    const std::unique_ptr<char[]> old(std::exchange(text, copy.release()));
     Modified();
 }
 

@@ -44,11 +44,19 @@ public:
     // The Y axes that the last picture showed.
     std::vector<CInvertedAxisActor*> GetDrawnYAxes();
     int RenderOpaqueGeometry(vtkViewport* viewport) override;
+    void SetXLabelFormat(const char* format) override { SetText(XLabelFormat, format); }
+    void SetYLabelFormat(const char* format) override { SetText(YLabelFormat, format); }
+    void SetZLabelFormat(const char* format) override { SetText(ZLabelFormat, format); }
 
 protected:
     CCubeAxesActor();
     ~CCubeAxesActor() override = default;
 
 private:
+    void SetActualXLabel(const char* label) override { SetText(ActualXLabel, label); }
+    void SetActualYLabel(const char* label) override { SetText(ActualYLabel, label); }
+    void SetActualZLabel(const char* label) override { SetText(ActualZLabel, label); }
+    // The base class frees the old text before it asks for memory, and would free it once more.
+    void SetText(char*& text, const char* value);
     CInvertedAxisActor* GetYAxis(int position);
 };

@@ -1,4 +1,5 @@
 // Aids of orientation: the axes of the scene, and the marker in the corner of the view.
+#include "platform/Platform.h"
 #include "view3d/CCoordinateAxes.h"
 #include "view3d/CWindow.h"
 
@@ -45,12 +46,14 @@ int32_t CWindow::Orientation_Show(bool show)
             if (show)
             {
                 ShowOrientation();
+                RenderWindow->Render();
+                return STATUS_OK;
             }
-            else
-            {
-                HideOrientation();
-            }
+            // The widget draws by itself as it goes: both make one picture.
+            Platform::HoldRenders(RenderWindow);
+            HideOrientation();
             RenderWindow->Render();
+            Platform::ReleaseRenders(RenderWindow);
             return STATUS_OK;
         });
 }

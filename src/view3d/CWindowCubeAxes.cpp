@@ -94,7 +94,7 @@ void KeepCountable(double& min, double& max)
 
 vtkSmartPointer<CCubeAxesActor> MakeCubeAxes(vtkCamera* camera, const double bounds[6])
 {
-    const auto cube = vtkSmartPointer<CCubeAxesActor>::New();
+    auto cube = vtkSmartPointer<CCubeAxesActor>::New();
     cube->SetCornerOffset(0.0);
     cube->SetUse2DMode(0);
     cube->SetEnableDistanceLOD(0);
