@@ -1,0 +1,240 @@
+#include "fuzz/Decoder.h"
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <iterator>
+
+namespace
+{
+constexpr double infinity = HUGE_VAL;
+constexpr double mild[] = {0,  1,     0.5, 2,    10,  -1, -10,  100, 0.25, 3, -3.5,
+                           45, 0.001, 360, -180, 0.1, 20, -0.5, 5,   400,  7, -400};
+constexpr double wild[] = {NAN,   infinity, -infinity, DBL_MIN, DBL_MAX, -DBL_MAX,
+                           1e300, -1e300,   5e-324,    1e-310,  1e-7,    1e-13,
+                           1e-10, 1e30,     1e39,      1e16,    -1e18,   -9223372036854.5,
+                           4e9,   1e154,    -0.0,      1e-5,    3e-9,    9.3e18};
+constexpr double counts[] = {2, 3, 4, 5, 2, 3, 6, 1, 0, -1, 7, 16, 4, 3, 251, 65536};
+constexpr double integers[] = {0, 1, 2, 3, 4, 5, 6, 7, 0, 1, 2, 3, 8, -1, INT32_MAX, INT32_MIN};
+constexpr double sizes[] = {4, 5, 96, 8, 0, -1, 24, 4};
+constexpr double noIds[] = {-1, 1000, INT32_MAX, INT32_MIN};
+constexpr double elementTypes[] = {0, 1, 2, 3, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, -1};
+constexpr size_t mostViews = 3;
+constexpr size_t mostElements = 24;
+constexpr size_t mostPoints = 2000;
+constexpr double mostSamples = 1 << 20;
+
+template <size_t count>
+double Pick(const double (&from)[count], unsigned byte)
+{
+    return from[byte % count];
+}
+
+// How unusual the arguments of a call are.
+struct Style
+{
+    explicit Style(uint8_t byte)
+        : Wildness(byte & 3), HasNull((byte & 28) == 28), IsRare(byte >= 240)
+    {
+    }
+    double Draw(unsigned byte) const
+    {
+        const bool isWild = Wildness == 3 ? byte % 2 == 0 : Wildness == 2 && byte % 8 == 0;
+        return isWild          ? Pick(wild, byte / 2)
+               : byte % 3 == 0 ? (static_cast<double>(byte) - 128) / 2
+                               : Pick(mild, byte / 3);
+    }
+    int Wildness;
+    bool HasNull;
+    bool IsRare; // what ends whole views may happen
+};
+
+// Views and elements would not live long otherwise.
+bool EndsMuch(const Function& function)
+{
+    const std::string& name = function.Name;
+    return name.ends_with("All") || name.ends_with("_Delete") || name.ends_with("_Create");
+}
+
+const Function& ChooseFunction(uint8_t choice, const Style& style, uint8_t other)
+{
+    static const auto adds = FindAll([](const Function& function) { return function.Adds; });
+    // What a mouse needs to do something.
+    static const auto gestures = FindAll(
+        [](const Function& function)
+        {
+            return function.Has(Role::Callback) || function.NameHas("_SetDrawMode") ||
+                   function.NameHas("_SetActiveElement");
+        });
+    const std::vector<Function>& all = AllFunctions();
+    if (choice < all.size() && (style.IsRare || !EndsMuch(all[choice])))
+    {
+        return all[choice];
+    }
+    const auto& chosen = choice % 4 == 1 ? gestures : adds;
+    return *chosen[other % chosen.size()];
+}
+
+double ChooseView(const Model& model, bool onChart, uint8_t byte)
+{
+    const std::vector<ModelView>& views = model.Views[onChart];
+    const std::vector<ModelView>& others = model.Views[!onChart];
+    if (byte < 4 || views.empty())
+    {
+        return Pick(noIds, byte);
+    }
+    return byte < 8 && !others.empty() ? others[byte % others.size()].Id
+                                       : views[byte % views.size()].Id;
+}
+
+double ChooseElement(Model& model, const Call& call, uint8_t byte)
+{
+    ModelView* const view = model.ViewOf(call);
+    const int32_t type = call.Called->ElementType;
+    std::vector<int32_t> fitting;
+    for (size_t at = 0; view && at < view->Elements.size(); ++at)
+    {
+        if (byte < 24 || type < 0 || view->Elements[at].Type == type)
+        {
+            fitting.push_back(view->Elements[at].Id);
+        }
+    }
+    return byte < 6 || fitting.empty() ? byte < 2 && view ? view->NextElement : Pick(noIds, byte)
+                                       : fitting[byte % fitting.size()];
+}
+
+// Values of one kind of array; `byte` chooses the pattern.
+double DrawSample(Role role, const Style& style, unsigned byte, unsigned at)
+{
+    const unsigned mixed = (byte * 31 + at * 73 + at * at * byte) & 255;
+    if (role == Role::Reals)
+    {
+        return style.Draw(mixed);
+    }
+    if (role == Role::Bytes)
+    {
+        return byte < 16 ? 0 : mixed;
+    }
+    constexpr double samples[] = {0,  5,   -5,     100, 32767,  -32767, 7,   20,
+                                  -9, 250, -32768, 3,   -32768, 1,      255, 12};
+    return byte < 16 ? TARVEX_INVALID_VALUE : byte < 48 ? mixed : Pick(samples, mixed);
+}
+
+double DrawScalar(Role role, const Model& model, const Call& call, const Style& style, uint8_t byte)
+{
+    const std::string& name = call.Called->Name;
+    const bool sized = name.ends_with("_Create") || name.ends_with("_UpdateSize");
+    switch (role)
+    {
+    case Role::View:
+        return ChooseView(model, call.Called->OnChart, byte);
+    case Role::Count:
+        // The two largest only where a call is meant to be odd.
+        return counts[byte % (style.Wildness == 3 ? 16 : 14)];
+    case Role::Integer:
+        return sized                       ? Pick(sizes, byte)
+               : name.ends_with("Default") ? Pick(elementTypes, byte)
+                                           : Pick(integers, byte);
+    case Role::Unsigned:
+        return byte < 240 ? byte % 8 : byte == 255 ? UINT32_MAX : byte;
+    case Role::Byte:
+        return byte % 4 == 0 ? 0 : byte;
+    case Role::Name:
+        return byte % static_cast<int>(std::size(Hosted::Names));
+    case Role::Parent:
+        return byte < 8 ? 3 : byte < 16 ? 2 : 0;
+    case Role::Callback:
+        return byte % Hosted::scripts;
+    default:
+        return style.Draw(byte);
+    }
+}
+
+void DrawArguments(ByteStream& bytes, Model& model, Call& call, const Style& style)
+{
+    double samples = 1;
+    for (const Role role : call.Called->Roles)
+    {
+        if (role == Role::Reals || role == Role::Samples || role == Role::Bytes ||
+            role == Role::Output)
+        {
+            continue;
+        }
+        const uint8_t byte = bytes.Next();
+        call.Scalars.push_back(role == Role::Element ? ChooseElement(model, call, byte)
+                                                     : DrawScalar(role, model, call, style, byte));
+        if (role == Role::Count)
+        {
+            double& count = call.Scalars.back();
+            const double product = samples * std::max(count, 0.0);
+            count = product > mostSamples && product <= INT32_MAX ? 2 : count;
+            samples *= std::max(count, 0.0);
+        }
+    }
+    const bool isText = call.Called->OutputArrays > 0 && !call.Called->Has(Role::Element);
+    call.OutputLength = isText ? static_cast<size_t>(std::max(call.Scalars.back(), 1.0)) : 1;
+    call.Inputs.resize(static_cast<size_t>(std::ranges::count_if(call.Called->Roles, IsInput)));
+    call.FitInputs();
+    auto input = call.Inputs.begin();
+    for (const Role role : call.Called->Roles)
+    {
+        const uint8_t byte = IsInput(role) ? bytes.Next() : uint8_t{0};
+        for (unsigned at = 0; IsInput(role) && at < input->size(); ++at)
+        {
+            (*input)[at] = DrawSample(role, style, byte, at);
+        }
+        input += IsInput(role) ? 1 : 0;
+    }
+    const size_t arrays = call.Inputs.size() + call.Called->OutputArrays;
+    const uint8_t which = bytes.Next();
+    call.NullArray = style.HasNull && arrays > 0 ? which % arrays : SIZE_MAX;
+}
+
+// Instead of what would let the model grow without end.
+void KeepSmall(Model& model, Call& call)
+{
+    const bool onChart = call.Called->OnChart;
+    const std::string window = onChart ? "Tarvex_Window2D" : "Tarvex_Window";
+    std::vector<ModelView>& views = model.Views[onChart];
+    ModelView* const view = model.ViewOf(call);
+    if (call.Called->Name.ends_with("_Create") && views.size() >= mostViews)
+    {
+        call = MakeCall(window + "_Delete", {static_cast<double>(views[0].Id)});
+    }
+    else if (view && (view->Elements.size() >= mostElements ||
+                      std::ranges::any_of(view->Elements, [](const ModelElement& element)
+                                          { return element.CountPoints() > mostPoints; })))
+    {
+        const std::string all = onChart ? "Tarvex_Element2D_RemoveAll" : "Tarvex_Element_RemoveAll";
+        call = MakeCall(all, {static_cast<double>(view->Id)});
+    }
+    else if (call.Called->Has(Role::View) && views.empty())
+    {
+        call = MakeCall(window + "_Create", {0, 1, 0, 0, 4, 4});
+    }
+}
+} // namespace
+
+bool DecodeStep(ByteStream& bytes, Model& model, Call& call, MouseMove& move)
+{
+    const uint8_t choice = bytes.Next();
+    const Style style(bytes.Next());
+    const uint8_t other = bytes.Next();
+    if (choice >= AllFunctions().size() && choice % 2 == 0)
+    {
+        move.OnChart = (other & 1) != 0;
+        move.View = other >> 2;
+        move.Drags = (other & 2) != 0;
+        move.X = bytes.Next();
+        move.Y = bytes.Next();
+        const uint8_t button = bytes.Next();
+        move.Button = button < 96 ? (move.Drags ? 1 : 0) : button < 192 ? 1 : 1 + button % 5;
+        move.Press = button % 2 == 0;
+        return false;
+    }
+    call = {};
+    call.Called = &ChooseFunction(choice, style, other);
+    DrawArguments(bytes, model, call, style);
+    KeepSmall(model, call);
+    return true;
+}

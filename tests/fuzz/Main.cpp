@@ -1,0 +1,226 @@
+// Sequences of calls from files and folders, then random ones. What fails is cut down to the calls
+// that are needed, and written into a file.
+#include "fuzz/Engine.h"
+#include "support/Effort.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <random>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+using Bytes = std::vector<uint8_t>;
+namespace fs = std::filesystem;
+
+struct Options
+{
+    bool Renders = false;
+    bool Tells = false;
+    unsigned Seed = 1;
+    long Calls = -1;
+    std::vector<fs::path> Paths;
+};
+
+// Where a child is, also when it dies.
+struct Progress
+{
+    long Sequence;
+    long Calls;
+};
+
+Bytes ReadFile(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+Bytes MakeBytes(unsigned seed)
+{
+    constexpr size_t bytesOfCall = 8; // about
+    std::mt19937 random(seed);
+    Bytes bytes(2000 * bytesOfCall);
+    std::ranges::generate(bytes, [&] { return static_cast<uint8_t>(random()); });
+    return bytes;
+}
+
+// The bytes of each call. What a call takes depends on it alone, so a model is not needed.
+std::vector<Bytes> Split(const Bytes& bytes)
+{
+    Model none;
+    ByteStream stream(bytes);
+    std::vector<Bytes> calls;
+    while (!stream.IsAtEnd())
+    {
+        const auto start = static_cast<ptrdiff_t>(stream.GetPosition());
+        Call call;
+        MouseMove move;
+        DecodeStep(stream, none, call, move);
+        calls.emplace_back(bytes.begin() + start,
+                           bytes.begin() + static_cast<ptrdiff_t>(stream.GetPosition()));
+    }
+    return calls;
+}
+
+Bytes Join(const std::vector<Bytes>& calls)
+{
+    Bytes all;
+    for (const Bytes& call : calls)
+    {
+        all.insert(all.end(), call.begin(), call.end());
+    }
+    return all;
+}
+
+class Runner
+{
+public:
+    explicit Runner(const Options& given)
+        : Given(given),
+          At(static_cast<Progress*>(mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE,
+                                         MAP_SHARED | MAP_ANONYMOUS, -1, 0)))
+    {
+        for (const fs::path& path : given.Paths)
+        {
+            if (fs::is_directory(path))
+            {
+                std::copy(fs::directory_iterator(path), {}, std::back_inserter(Files));
+            }
+            else
+            {
+                Files.push_back(path);
+            }
+        }
+        std::ranges::sort(Files);
+    }
+
+    bool RunAll()
+    {
+        const auto run = [this](Engine& engine)
+        {
+            bool good = true;
+            for (; good && (IsFile() || engine.CountCalls() < Given.Calls); ++At->Sequence)
+            {
+                good = Run(engine, Load(), IsFile());
+                At->Calls = engine.CountCalls();
+                At->Sequence -= good ? 0 : 1;
+            }
+            return good;
+        };
+        if (InChild(run, false))
+        {
+            ReportFigure("fuzz", std::to_string(At->Calls) + " calls" +
+                                     (Given.Renders ? " with pictures" : "") + ", " +
+                                     std::to_string(Files.size()) + " kept sequences: 0 findings");
+            return At->Calls > 0;
+        }
+        std::cout << (IsFile() ? Files[size_t(At->Sequence)].string()
+                               : "seed " + std::to_string(GetSeed()))
+                  << " fails" << std::endl;
+        if (!IsFile())
+        {
+            const Bytes cut = Shrink(Load());
+            const std::string path = "failed-" + std::to_string(GetSeed()) + ".case";
+            std::ofstream(path, std::ios::binary)
+                .write(reinterpret_cast<const char*>(cut.data()), std::ssize(cut));
+            std::cout << path << ": " << Split(cut).size() << " calls, see them by --tell\n";
+        }
+        return false;
+    }
+
+private:
+    bool IsFile() const { return At->Sequence < std::ssize(Files); }
+    unsigned GetSeed() const
+    {
+        return Given.Seed + static_cast<unsigned>(At->Sequence - std::ssize(Files));
+    }
+    Bytes Load() const
+    {
+        return IsFile() ? ReadFile(Files[static_cast<size_t>(At->Sequence)]) : MakeBytes(GetSeed());
+    }
+
+    static bool Run(Engine& engine, const Bytes& bytes, bool reusesViews)
+    {
+        constexpr unsigned hangs = 120; // seconds
+        alarm(hangs);
+        const bool good = engine.Run(bytes, reusesViews);
+        if (!good)
+        {
+            std::cerr << engine.GetComplaint() << std::endl;
+        }
+        return good;
+    }
+
+    // In a process of its own, up to its normal end.
+    bool InChild(const std::function<bool(Engine&)>& run, bool quiet) const
+    {
+        const pid_t child = fork();
+        if (child == 0)
+        {
+            if (quiet)
+            {
+                std::freopen("/dev/null", "w", stderr);
+            }
+            bool good = false;
+            {
+                Engine engine(Given.Renders, Given.Tells);
+                good = run(engine);
+            }
+            std::exit(good ? 0 : 1);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return status == 0;
+    }
+
+    // Leaves out whatever can be left out, in ever smaller pieces.
+    Bytes Shrink(const Bytes& bytes) const
+    {
+        std::vector<Bytes> calls = Split(bytes);
+        for (size_t piece = calls.size() / 2; piece > 0; piece /= 2)
+        {
+            for (size_t at = 0; at < calls.size();)
+            {
+                std::vector<Bytes> fewer = calls;
+                const auto from = fewer.begin() + static_cast<ptrdiff_t>(at);
+                const size_t count = std::min(piece, fewer.size() - at);
+                fewer.erase(from, from + static_cast<ptrdiff_t>(count));
+                const Bytes joined = Join(fewer);
+                const auto run = [&](Engine& engine) { return Run(engine, joined, false); };
+                const bool stillFails = !InChild(run, true);
+                calls = stillFails ? fewer : calls;
+                at += stillFails ? 0 : piece;
+            }
+        }
+        return Join(calls);
+    }
+
+    const Options Given;
+    Progress* const At;
+    std::vector<fs::path> Files;
+};
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Options options;
+    CLI::App app("Calls the library at random, and holds it against a model");
+    app.add_flag("--renders", options.Renders, "With pictures: ten times as slow");
+    app.add_flag("--tell", options.Tells, "Print each call");
+    app.add_option("--seed", options.Seed, "Of the first random sequence");
+    app.add_option("--calls", options.Calls, "How many to make in random sequences");
+    app.add_option("paths", options.Paths, "Sequences to make first: files, or folders of them");
+    CLI11_PARSE(app, argc, argv);
+    if (options.Calls < 0)
+    {
+        options.Calls = options.Renders ? Effort(1'000L, 200'000L) : Effort(10'000L, 1'000'000L);
+    }
+    return Runner(options).RunAll() ? 0 : 1;
+}

@@ -1,0 +1,318 @@
+// Measured data: surfaces, profiles and images.
+#include "fuzz/Model.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+constexpr double missing = TARVEX_INVALID_VALUE;
+constexpr double lastPalette = TARVEX_PALETTE_SINGLE_COLOR;
+
+bool IsAllMissing(const Numbers& samples)
+{
+    return std::ranges::all_of(samples, [](double sample) { return sample == missing; });
+}
+
+size_t CountOf(const Situation& now, size_t at)
+{
+    return static_cast<size_t>(std::max(now.Given[at], 0.0));
+}
+
+// What adds and changes of surfaces and of 3D profiles test: counts, then scales, then offsets.
+int32_t JudgeSamples(const Situation& now, size_t counts, size_t scales)
+{
+    const Function& called = *now.Made.Called;
+    const size_t heights = called.NameHas("NonUniform") ? counts : 0;
+    const bool hasMode = called.Adds && counts == 2;
+    const bool usable = AreUsable(now.Given, counts, now.Given.size() - counts - (hasMode ? 1 : 0));
+    const auto size = now.Given.begin();
+    const auto scale = size + static_cast<ptrdiff_t>(counts);
+    const double samples = counts == 2 ? size[0] * size[1] : size[0];
+    // A change of a surface looks at the numbers first.
+    return !usable && !called.Adds              ? STATUS_NOT_FINITE
+           : LacksArray(now.Made)               ? STATUS_NULL_ARGUMENT
+           : !usable                            ? STATUS_NOT_FINITE
+           : *std::min_element(size, scale) < 2 ? STATUS_TOO_SMALL
+           : *std::min_element(scale, scale + static_cast<ptrdiff_t>(scales)) < 1e-12
+               ? STATUS_OUT_OF_RANGE
+           : IsTooMuch(samples, counts == 2 ? 2 : 8) ? STATUS_OUT_OF_MEMORY
+           : IsAllMissing(now.Made.Inputs[heights])  ? STATUS_BAD_COUNT
+                                                     : STATUS_OK;
+}
+
+void TakeSurface(const Situation& now, ModelElement& element)
+{
+    element.Columns = CountOf(now, 0);
+    element.Rows = CountOf(now, 1);
+    element.HasIntensity = now.Made.NullArray == SIZE_MAX;
+    element.ShowsIntensity = element.ShowsIntensity && element.HasIntensity;
+}
+
+int32_t AddSurface(Situation& now)
+{
+    const int32_t status = JudgeSamples(now, 2, 3);
+    ModelElement element;
+    TakeSurface(now, element);
+    element.Mode = now.Given.back() != 0;
+    return status == STATUS_OK ? AddElement(now, std::move(element)) : status;
+}
+
+int32_t SetSurface(Situation& now)
+{
+    const int32_t status = JudgeSamples(now, 2, 3);
+    if (status == STATUS_OK || status == STATUS_BAD_COUNT)
+    {
+        TakeSurface(now, *now.Element);
+        now.Element->Unbuilt = status != STATUS_OK;
+        now.Element->Lighting =
+            status == STATUS_OK ? now.Element->FirstLighting : now.Element->Lighting;
+    }
+    return status;
+}
+
+int32_t AddIntensity(Situation& now)
+{
+    const bool fits = now.Given[0] == static_cast<double>(now.Element->Columns) &&
+                      now.Given[1] >= static_cast<double>(now.Element->Rows);
+    const bool good = fits && !LacksArray(now.Made);
+    now.Element->HasIntensity = now.Element->HasIntensity || good;
+    return LacksArray(now.Made) ? STATUS_NULL_ARGUMENT : good ? STATUS_OK : STATUS_TOO_SMALL;
+}
+
+int32_t SetPalette(Situation& now)
+{
+    double& palette = now.Element->Palette();
+    const bool known = now.Given[0] <= lastPalette;
+    palette = known ? now.Given[0] : palette;
+    return known ? STATUS_OK : STATUS_OUT_OF_RANGE;
+}
+
+int32_t SetScaling(Situation& now)
+{
+    ModelElement& element = *now.Element;
+    const double percent = now.Given[1];
+    const double least = now.Given[2];
+    const double most = now.Given[3];
+    const bool automatic = now.Given[0] != 0;
+    if (automatic ? percent < 0 || percent > 45 : least >= most - 0.001)
+    {
+        return STATUS_OUT_OF_RANGE;
+    }
+    if (automatic && element.ShowsIntensity)
+    {
+        return STATUS_BAD_POINT;
+    }
+    element.Scaling[0] = automatic;
+    if (automatic)
+    {
+        element.Scaling[1] = percent;
+        return element.Unbuilt ? STATUS_BAD_COUNT : STATUS_OK;
+    }
+    if (element.ShowsIntensity)
+    {
+        return least < 0 || most > 255 || most - least < 1 ? STATUS_OUT_OF_RANGE : STATUS_OK;
+    }
+    element.Scaling[2] = least;
+    element.Scaling[3] = most;
+    return STATUS_OK;
+}
+
+void TellSurfaces(Rules& rules)
+{
+    for (const std::string type : {"SurfaceUniform", "SurfaceNonUniform"})
+    {
+        rules["Tarvex_Element_Add_" + type] = AddSurface;
+        rules["Tarvex_Element_" + type + "_SetValue"] = SetSurface;
+        rules["Tarvex_Element_" + type + "_AddIntensity"] = AddIntensity;
+        rules["Tarvex_Element_ShowIntensity_" + type] = Unless(
+            STATUS_NOT_READY,
+            [](const Situation& now) { return now.Given[0] != 0 && !now.Element->HasIntensity; },
+            [](Situation& now) { now.Element->ShowsIntensity = now.Given[0] != 0; });
+        rules["Tarvex_Element3D_" + type + "_GetRepresentationMode"] =
+            Gives([](const Situation& now) { return Numbers{now.Element->Mode}; });
+        rules["Tarvex_Element3D_" + type + "_SetRepresentationMode"] = Does(
+            [](Situation& now)
+            {
+                now.Element->Mode = now.Given[0] != 0;
+                now.Element->Lighting = now.Element->FirstLighting;
+            });
+        rules["Tarvex_Element_GetPalette_" + type] =
+            Gives([](const Situation& now) { return Numbers{now.Element->Palette()}; });
+        rules["Tarvex_Element_SetPalette_" + type] = SetPalette;
+        rules["Tarvex_Element_GetZScalingPalette_" + type] =
+            Gives([](const Situation& now) { return now.Element->Scaling; });
+        rules["Tarvex_Element_ZScalingPalette_" + type] = SetScaling;
+        rules["Tarvex_Element_Add_Profile" + type.substr(7)] = [](Situation& now)
+        {
+            const int32_t status = JudgeSamples(now, 1, 2);
+            return status == STATUS_OK ? AddElement(now, {}) : status;
+        };
+    }
+}
+
+// The samples of a chart profile, in chart coordinates: x, y, valid.
+std::vector<Numbers> ReadSamples(const Situation& now)
+{
+    const Call& call = now.Made;
+    const size_t count = CountOf(now, 0);
+    const bool general = call.Called->NameHas("General");
+    const bool hasX = call.Inputs.size() > 1;
+    std::vector<Numbers> samples(3, Numbers(count));
+    for (size_t at = 0; at < count; ++at)
+    {
+        const double z = call.Inputs[hasX ? 1 : 0][at];
+        const bool valid = general ? call.NullArray == 2 || call.Inputs[2][at] != 0 : z != missing;
+        const double x = hasX ? call.Inputs[0][at] : static_cast<double>(at);
+        samples[0][at] = general ? x : x * now.Given[1] + now.Given[3];
+        samples[1][at] = !valid ? 0 : general ? z : z * now.Given[2] + now.Given[4];
+        samples[2][at] = valid;
+    }
+    if (general && !call.Called->NameHas("Attach") && count > 0 && samples[2][0] == 0)
+    {
+        samples[0][0] = 0;
+    }
+    return samples;
+}
+
+int32_t JudgeChartSamples(const Situation& now, double least)
+{
+    return LacksArray(now.Made)   ? STATUS_NULL_ARGUMENT
+           : now.Given[0] < least ? STATUS_TOO_SMALL
+           : !AreUsable(now.Given, 1, 4) && !now.Made.Called->NameHas("General") ? STATUS_NOT_FINITE
+           : IsTooMuch(now.Given[0], 8) ? STATUS_OUT_OF_MEMORY
+                                        : STATUS_OK;
+}
+
+bool IsEmpty(const std::vector<Numbers>& samples)
+{
+    return std::ranges::count(samples[2], 0.0) == static_cast<ptrdiff_t>(samples[2].size());
+}
+
+Rule SetSamples(double least, bool attaches = false)
+{
+    return [=](Situation& now) -> int32_t
+    {
+        const bool uniform = now.Made.Called->ElementType == TARVEX_ELEMENT_PROFILE_UNIFORM;
+        if (now.Element && now.Element->Empty)
+        {
+            return STATUS_NOT_READY;
+        }
+        const int32_t status = JudgeChartSamples(now, least);
+        if (status != STATUS_OK)
+        {
+            return status;
+        }
+        const std::vector<Numbers> samples = ReadSamples(now);
+        const bool empty = uniform && IsEmpty(samples);
+        if (!now.Element)
+        {
+            ModelElement element;
+            element.Points = samples;
+            return empty ? STATUS_NOT_READY : AddElement(now, std::move(element));
+        }
+        for (size_t axis = 0; axis < 3; ++axis)
+        {
+            Numbers& held = now.Element->Points[axis];
+            held.erase(attaches ? held.end() : held.begin(), held.end());
+            held.insert(held.end(), samples[axis].begin(), samples[axis].end());
+        }
+        now.Element->Empty = empty;
+        return STATUS_OK;
+    };
+}
+
+void TellChartProfiles(Rules& rules)
+{
+    const std::string prefix = "Tarvex_Element2D_";
+    const std::string free = prefix + "ProfileNonUniform_";
+    rules[prefix + "Add_ProfileNonUniform_GeneralData"] = SetSamples(1);
+    rules[prefix + "Add_ProfileNonUniform_KorData"] = SetSamples(2);
+    rules[prefix + "Add_ProfileUniform"] = SetSamples(2);
+    rules[prefix + "ProfileUniform_SetValue"] = SetSamples(2);
+    rules[free + "SetValue_GeneralData"] = SetSamples(2);
+    rules[free + "SetValue_KorData"] = SetSamples(2);
+    rules[free + "AttachValues_GeneralData"] = SetSamples(1, true);
+    rules[free + "AttachValues_KorData"] = SetSamples(1, true);
+    rules[free + "SetMarkerSize"] =
+        Unless(STATUS_TOO_SMALL, [](const Situation& now) { return now.Given[0] < 0.001; });
+    for (const std::string type : {"ProfileUniform_", "ProfileNonUniform_"})
+    {
+        rules[prefix + type + "GetPointCount"] = Unless(
+            STATUS_NOT_READY, [](const Situation& now) { return now.Element->Empty; },
+            [](Situation& now) { now.Expected = {double(now.Element->CountPoints())}; });
+        rules[prefix + type + "GetValue"] = [](Situation& now)
+        {
+            now.Arrays = now.Element->Points;
+            return now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT
+                   : now.Element->Empty           ? STATUS_NOT_READY
+                                                  : STATUS_OK;
+        };
+    }
+}
+
+// Bytes as they are; 16-bit values that are reduced are not known.
+int32_t SetImage(Situation& now)
+{
+    const bool isByte = now.Made.Called->Has(Role::Bytes);
+    const bool tooFine = now.Given[2] < 1e-10 || now.Given[3] < 1e-10 || now.Given[4] < 1e-10;
+    const int32_t status = LacksArray(now.Made)                        ? STATUS_NULL_ARGUMENT
+                           : std::min(now.Given[0], now.Given[1]) < 2  ? STATUS_TOO_SMALL
+                           : tooFine || now.Given[8] > lastPalette     ? STATUS_OUT_OF_RANGE
+                           : IsTooMuch(now.Given[0] * now.Given[1], 1) ? STATUS_OUT_OF_MEMORY
+                                                                       : STATUS_OK;
+    if (status != STATUS_OK)
+    {
+        return status;
+    }
+    ModelElement* element = now.Element;
+    for (ModelElement& other : now.View->Elements)
+    {
+        element = other.Type == TARVEX_ELEMENT_IMAGE ? &other : element;
+    }
+    if (!element)
+    {
+        AddElement(now, {});
+        element = &now.View->Elements.back();
+    }
+    now.Expected = now.Made.Called->Adds ? Numbers{static_cast<double>(element->Id)} : Numbers{};
+    element->Columns = CountOf(now, 0);
+    element->Rows = CountOf(now, 1);
+    const Numbers& pixels = now.Made.Inputs[0];
+    const bool fits =
+        std::ranges::all_of(pixels, [](double value) { return value >= 0 && value <= 255; });
+    element->Points = {fits ? pixels : Numbers(pixels.size(), anyNumber)};
+    element->Values = {now.Given.begin() + 2, now.Given.begin() + 8};
+    if (!isByte && !fits)
+    {
+        element->Values[2] = element->Values[5] = anyNumber;
+    }
+    element->Palettes[0] = now.Given[8];
+    return STATUS_OK;
+}
+} // namespace
+
+void TellMeasurementRules(Rules& rules)
+{
+    TellSurfaces(rules);
+    TellChartProfiles(rules);
+    const std::string prefix = "Tarvex_Element2D_";
+    for (const char* form : {"Byte", "Short"})
+    {
+        rules[prefix + "Add_Image" + form] = SetImage;
+        rules[prefix + "Image_SetValue" + form] = SetImage;
+    }
+    rules[prefix + "Image_GetImageSize"] = Gives(
+        [](const Situation& now) {
+            return Numbers{double(now.Element->Columns), double(now.Element->Rows)};
+        });
+    rules[prefix + "Image_GetValue"] = [](Situation& now)
+    {
+        now.Arrays = now.Element->Points;
+        now.Expected = now.Element->Values;
+        return now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT : STATUS_OK;
+    };
+    rules[prefix + "GetPalette_Image"] =
+        Gives([](const Situation& now) { return Numbers{now.Element->Palette()}; });
+    rules[prefix + "SetPalette_Image"] = SetPalette;
+}
