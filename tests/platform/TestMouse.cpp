@@ -26,11 +26,11 @@ protected:
     // What kind of motion the camera makes meanwhile.
     std::string MotionBy(const std::function<void()>& action) const
     {
-        const Numbers from = Read(Tarvex_Window_Camera_GetPosition);
-        const Numbers before = Read(Tarvex_Window_Camera_GetViewDirection);
+        const Numbers from = Read("Window_Camera_GetPosition");
+        const Numbers before = Read("Window_Camera_GetViewDirection");
         action();
-        const Numbers to = Read(Tarvex_Window_Camera_GetPosition);
-        const Numbers now = Read(Tarvex_Window_Camera_GetViewDirection);
+        const Numbers to = Read("Window_Camera_GetPosition");
+        const Numbers now = Read("Window_Camera_GetViewDirection");
         if (vtkMath::Dot(before.data(), now.data()) < 0.9999)
         {
             return "turn";
