@@ -3,29 +3,26 @@
 
 namespace
 {
-using testing::DoubleNear;
-using testing::Pointwise;
 class Camera : public ViewFixture
 {
 protected:
     // Position, direction and up.
     Numbers Get() const
     {
-        Numbers got = Read(Tarvex_Window_Camera_GetPosition);
-        const Numbers turn = Read(Tarvex_Window_Camera_GetViewDirection);
+        Numbers got = Read("Window_Camera_GetPosition");
+        const Numbers turn = Read("Window_Camera_GetViewDirection");
         got.insert(got.end(), turn.begin(), turn.end());
         return got;
     }
-    int32_t Turn(const Numbers& to) const
+    void Turn(const Numbers& to) const
     {
-        return Call(Tarvex_Window_Camera_SetViewDirection, to);
+        EXPECT_EQ(Do("Window_Camera_SetViewDirection", to), STATUS_OK);
     }
     void MoveTo(double x, double y, double z) const
     {
         EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, x, y, z), STATUS_OK);
     }
-    int32_t Zoom(double factor) const { return Tarvex_Window_Camera_SetZoom(Id, factor); }
-    int32_t Show(int32_t view) const { return Tarvex_Window_Camera_SetPredefinedView(Id, view); }
+    void Zoom(double factor) const { Tarvex_Window_Camera_SetZoom(Id, factor); }
 };
 
 TEST_F(Camera, LooksAtTheOriginFromAnAxisInEachPredefinedView)
@@ -35,19 +32,19 @@ TEST_F(Camera, LooksAtTheOriginFromAnAxisInEachPredefinedView)
                              {0, 100, 0, 0, -1, 0, 0, 0, 1}, {100, 0, 0, -1, 0, 0, 0, 0, 1}};
     for (int32_t view = TARVEX_VIEW_TOP; view <= TARVEX_VIEW_RIGHT; ++view)
     {
-        EXPECT_EQ(Show(view), STATUS_OK);
-        EXPECT_THAT(Get(), Pointwise(DoubleNear(1e-9), cases[view])) << view;
+        EXPECT_EQ(Tarvex_Window_Camera_SetPredefinedView(Id, view), STATUS_OK);
+        EXPECT_THAT(Get(), Near(cases[view])) << view;
     }
 }
 
 TEST_F(Camera, FramesTheSceneInAPredefinedViewAndWithAutoSize)
 {
-    Tarvex_Element_SetSize(Id, AddPoint(30, 40, 0), 10);
-    EXPECT_EQ(Show(TARVEX_VIEW_TOP), STATUS_OK);
+    AddPoint(30, 40, 0, 10);
+    EXPECT_EQ(Tarvex_Window_Camera_SetPredefinedView(Id, TARVEX_VIEW_TOP), STATUS_OK);
     EXPECT_THAT(TakePicture(Id).Centre(IsLit), testing::Each(testing::DoubleNear(100, 2)));
     EXPECT_NEAR(Get()[0], 30, 0.1);
     EXPECT_NEAR(Get()[1], -40, 0.1);
-    EXPECT_EQ(Turn({0.6, 0, -0.8, 0, 1, 0}), STATUS_OK);
+    Turn({0.6, 0, -0.8, 0, 1, 0});
     MoveTo(500, 500, 500);
     EXPECT_EQ(CountLit(), 0) << "out of sight";
     EXPECT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
@@ -67,32 +64,14 @@ TEST_F(Camera, TurnsAroundItsFocalPointAndStraightensALeaningUpVector)
     {
         LookDown();
         MoveTo(5, 6, 100); // looks at (5, 6, 0)
-        EXPECT_EQ(Turn(given), STATUS_OK);
-        EXPECT_THAT(Get(), Pointwise(DoubleNear(1e-6), expected));
+        Turn(given);
+        EXPECT_THAT(Get(), Near(expected));
     }
-}
-
-TEST_F(Camera, StaysWhenItRefusesVectorsViewsAndZooms)
-{
-    EXPECT_EQ(Turn({1e300, 1, 1, 0, 0, 1}), STATUS_OK);
-    const Numbers before = Get();
-    EXPECT_EQ(Turn({0, 0, 0, 0, 0, 1}), STATUS_ZERO_VECTOR);
-    EXPECT_EQ(Turn({0.9e-5, 0, 0, 0, 0, 1}), STATUS_ZERO_VECTOR);
-    EXPECT_EQ(Turn({1, 0, 0, 0, 0, 0}), STATUS_ZERO_VECTOR);
-    EXPECT_EQ(Turn({1, 0, 0, 2, 0, 0}), STATUS_PARALLEL_VECTORS);
-    EXPECT_EQ(Turn({1, 0, 0, -2, 0, 0}), STATUS_PARALLEL_VECTORS);
-    EXPECT_EQ(Turn({0, 1, 0, 0, 1, 0.9e-6}), STATUS_PARALLEL_VECTORS);
-    EXPECT_EQ(Show(-1), STATUS_OUT_OF_RANGE);
-    EXPECT_EQ(Show(6), STATUS_OUT_OF_RANGE);
-    EXPECT_EQ(Zoom(-2.0), STATUS_OUT_OF_RANGE);
-    EXPECT_EQ(Zoom(0.9e-6), STATUS_OUT_OF_RANGE);
-    EXPECT_EQ(Get(), before);
-    EXPECT_EQ(Zoom(1e-6), STATUS_OK);
 }
 
 TEST_F(Camera, ZoomsRelativelyAndDistanceMattersInPerspectiveOnly)
 {
-    Tarvex_Element_SetSize(Id, AddPoint(0, 0, 0), 2);
+    AddPoint(0, 0, 0, 2);
     for (const uint8_t parallel : {0, 255, 0})
     {
         LookDown();

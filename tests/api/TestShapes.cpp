@@ -1,139 +1,131 @@
-// What distinguishes the shapes, as a host sees them: which numbers they take, refuse, fold and
-// hide.
+// Where shapes lie as a host reads it back, by whichever of their functions they were set.
 #include "support/ViewFixture.h"
+
+#include <cmath>
 
 namespace
 {
-struct Kind
-{
-    Numbers Good; // around y = 20
-    Export Add;
-    Export Set;
-    Export Get;
-};
+using Lines = ViewFixture;
 
-// A plane is always added by distance.
-int32_t AddByPoint(int32_t view, double x, double y, double z, double nx, double ny, double nz,
-                   int32_t* id)
+TEST_F(Lines, TellTheirEndsAfterEachCallAndAreCutByTheirBox)
 {
-    const int32_t status = Tarvex_Element_Add_Plane(view, 0, 0, 0, 1, id);
-    return status == STATUS_OK ? Tarvex_Element_Plane_SetValue(view, *id, x, y, z, nx, ny, nz)
-                               : status;
-}
-
-Kind Make(const Numbers& good, const Export& add, const Export& set, const Export& get)
-{
-    return {good, add, set, get};
-}
-
-const Kind ellipse = Make({0, 20, 0, 5, 3, 30}, Tarvex_Element_Add_Ellipse,
-                          Tarvex_Element_Ellipse_SetValue, Tarvex_Element_Ellipse_GetValue);
-const Kind plane = Make({-1, 0, 0, 1}, Tarvex_Element_Add_Plane, Tarvex_Element_Plane_SetValue2,
-                        Tarvex_Element_Plane_GetValue2);
-const Kind planeByPoint = Make({0, 20, -1, 0, 0, 1}, AddByPoint, Tarvex_Element_Plane_SetValue,
-                               Tarvex_Element_Plane_GetValue);
-const Kind rectangle = Make({0, 20, 0, 6, 4, 30}, AddCentered, Tarvex_Element_Rectangle_SetValue,
-                            Tarvex_Element_Rectangle_GetValue);
-const Kind cube = Make({0, 20, 0, 6, 4, 2, 30}, Tarvex_Element_Add_Cube,
-                       Tarvex_Element_Cube_SetValue, Tarvex_Element_Cube_GetValue);
-
-class Shapes : public ViewFixture
-{
-protected:
-    void Set(const Kind& kind, int32_t element, const Numbers& values) const
+    const Numbers alongX = {-50, 0, 0, 50, 0, 0}; // through the initial box
+    constexpr double at = 50.0 + 1e-11;           // within the tolerance of a face, and beyond it
+    constexpr double away = 50.0 + 1e-9;
+    const double r = 10 / std::sqrt(2.0); // of a line of 10 to either side
+    const double t = 10 / std::sqrt(6.0);
+    // A call for a new line, then some for that one; its ends in the world, and its length where
+    // that is new.
+    const struct
     {
-        EXPECT_EQ(Call(kind.Set, element, values), STATUS_OK);
-    }
-};
-
-TEST_F(Shapes, FoldTheirAngleOnlyInTheAddOfValidValues)
-{
-    using Row = std::array<double, 3>;
-    // 360 only from a negative multiple; both ends of -180 .. 180 stay, and so does their side.
-    for (const auto& [angle, ofEllipse, ofOthers] : {Row{190 - 720, 190, -170},
-                                                     {180, 180, 180},
-                                                     {-180, 180, -180},
-                                                     {360, 0, 0},
-                                                     {-360, 360, 0},
-                                                     {540, 180, 180},
-                                                     {-540, 180, -180},
-                                                     {-Infinity, -Infinity, -Infinity}})
+        std::string Function;
+        Numbers Given;
+        Numbers Ends;
+        Numbers Length = {};
+    } steps[] = {
+        {"Add_Line", {0, 20, 100, 1, 0, 0}, {-10, -20, 100, 10, -20, 100}},
+        {"Add_Line", {0, 0, 0, 5, 0, 0}, alongX},
+        {"Line_SetValue", {1, 2, 3, 2, 2, 3}, {-50, -2, 3, 50, -2, 3}},
+        {"Line_SetValue", {60, 1, 2, 60, 4, 6}, {60, -1, 2, 60, -4, 6}}, // beside the box
+        {"Line_SetValue", {0, 0, 0, 1, 0, 0}, alongX},
+        // Invalid it keeps its last ends and takes a limit.
+        {"Line_SetValue", {0, 0, 0, 0, 0, 0}, alongX},
+        {"SetDrawLimit_Line", {-2, 7, -1, 1, -1, 1}, alongX},
+        {"Line_SetValue", {0, 0, 0, 1, 0, 0}, {-2, 0, 0, 7, 0, 0}, {0, 1}},
+        {"Add_Line", {0, 0, 0, 0, 0, 0}, {0, 0, 0, 10, -10, 10}},
+        {"Add_Line", {1, 0, 0, 0, 2, 0}, {1, 50, 0, 1, -50, 0}},
+        {"SetLength_Line", {100, -5}, {1, 5, 0, 1, -100, 0}},
+        // A limit that misses the line.
+        {"Add_Line", {0, 0, 0, 1, 0, 0}, alongX},
+        {"SetDrawLimit_Line", {-2, 7, 5, 6, -1, 1}, alongX, {-10, 10}},
+        {"SetDrawLimit_Line", {-2, 2, 0, 0.1, -1, 1}, {-2, 0, 0, 2, 0, 0}, {-2, 2}},
+        {"Add_Line", {0, 0, 0, -1, 0, 0}, alongX},
+        {"SetDrawLimit_Line", {-2, 7, -1, 3, -1, 1}, {7, 0, 0, -2, 0, 0}, {-7, 2}},
+        {"Add_Line", {0, 0, 0, 1e-6, 1, 0}, {-5e-5, 50, 0, 5e-5, -50, 0}},
+        {"SetDrawLimit_Line", {-2, 7, -1, 3, -1, 1}, {-1e-6, 1, 0, 3e-6, -3, 0}, {-1, 3}},
+        // Cut by the initial box if they cross it.
+        {"Add_Line", {1, 2, 3, 0, 0, 1}, {1, -2, -50, 1, -2, 50}},
+        {"Add_Line", {0, 0, 0, 1, 1, 1}, {-50, 50, -50, 50, -50, 50}},
+        {"Add_Line", {200, 10, 0, 1, 0, 0}, {-50, -10, 0, 50, -10, 0}},
+        {"Add_Line", {0, 0, 0, 1, 2, 0}, {-25, 50, 0, 25, -50, 0}},
+        {"Add_Line", {50, 40, 0, -1, 1, 0}, {50, -40, 0, 40, -50, 0}}, // across an edge
+        {"Add_Line", {0, 0, 0, 1, 1e-16, 0}, {-50, 0, 0, 50, 0, 0}},
+        {"Add_Line", {0, at, 0, 1, 0, 0}, {-50, -at, 0, 50, -at, 0}},    // in a face
+        {"Add_Line", {50, 50, 0, 0, 0, 1}, {50, -50, -50, 50, -50, 50}}, // along an edge
+        {"Add_Line", {0, away, 0, 1, 0, 0}, {-10, -away, 0, 10, -away, 0}},
+        {"Add_Line", {50, 51, 0, 1, -1, 0}, {50 - r, -51 - r, 0, 50 + r, -51 + r, 0}},
+        {"Add_Line", {50, 50, 0, 1, -1, 0}, {50 - r, -50 - r, 0, 50 + r, -50 + r, 0}}, // an edge
+        {"Add_Line",
+         {50, 50, 50, 1, 1, -2}, // touches a corner
+         {50 - t, -50 + t, 50 + 2 * t, 50 + t, -50 - t, 50 - 2 * t}}};
+    int32_t line = TARVEX_NONE;
+    for (const auto& [function, given, ends, length] : steps)
     {
-        for (const auto& [kind, folded] :
-             {std::pair(&ellipse, ofEllipse), {&rectangle, ofOthers}, {&cube, ofOthers}})
+        SCOPED_TRACE(function + testing::PrintToString(given));
+        const std::string name = "Element_" + function;
+        const bool adds = function.starts_with("Add");
+        line += adds ? 1 : 0;
+        EXPECT_EQ(adds ? Do(name, given) : Do(name, line, given), STATUS_OK);
+        EXPECT_THAT(Read("Element_Line_GetValue", line), Near(ends, 1e-9));
+        if (!length.empty())
         {
-            Numbers values = kind->Good;
-            values.back() = angle;
-            const int32_t element = Add(kind->Add, values);
-            EXPECT_EQ(Read(kind->Get, element).back(), folded);
-            Set(*kind, element, values);
-            EXPECT_EQ(Read(kind->Get, element), values);
-            values.front() = Marker;
-            EXPECT_EQ(Read(kind->Get, Add(kind->Add, values)), values);
+            EXPECT_THAT(Read("Element_GetLength_Line", line), Near(length, 1e-9));
         }
     }
 }
 
+// A view takes thinner ones.
+TEST_F(Lines, TakeABoxThickerThanATenthOnly)
+{
+    for (const double extent : {0.1, 0.11})
+    {
+        EXPECT_EQ(Tarvex_Window_SetDrawSpace(Id, -1, 1, 0, extent, -1, 1), STATUS_OK);
+        const double reach = extent > 0.1 ? 1 : 50;
+        const int32_t line = AddLine(0, 0.05, 0, 1, 0, 0);
+        EXPECT_EQ(Read("Element_Line_GetValue", line),
+                  (Numbers{-reach, -0.05, 0, reach, -0.05, 0}));
+    }
+    EXPECT_EQ(Read("Element_GetLength_Line", 0), (Numbers{-1, 1})) << "follows the view's box";
+}
+
+using Shapes = ViewFixture;
+
 TEST_F(Shapes, PlaneTellsItsDistanceWithTheSignOfTheCallThatSetIt)
 {
-    // A call, and what the plane tells afterwards by distance and by point.
-    const std::tuple<const Kind&, Numbers, Numbers, Numbers> steps[] = {
-        {plane, {3, 0, 0, 2}, {3, 0, 0, 1}, {0, 0, 3, 0, 0, 1}},
-        {planeByPoint, {1, 2, 3, 0, 0, 5}, {-3, 0, 0, 1}, {1, 2, 3, 0, 0, 1}},
+    // What the plane tells afterwards by distance and by point.
+    const std::tuple<std::string, Numbers, Numbers, Numbers> steps[] = {
+        {"2", {3, 0, 0, 2}, {3, 0, 0, 1}, {0, 0, 3, 0, 0, 1}},
+        {"", {1, 2, 3, 0, 0, 5}, {-3, 0, 0, 1}, {1, 2, 3, 0, 0, 1}},
         // An invalid plane keeps what the call did not give, and raw what it gave.
-        {planeByPoint, {4, 5, 6, 0, 0, 0}, {-3, 0, 0, 0}, {4, 5, 6, 0, 0, 0}},
-        {plane, {7, 0, 0, 1e-7}, {7, 0, 0, 1e-7}, {4, 5, 6, 0, 0, 1e-7}},
-        {plane, {-2, 0, 4, 0}, {-2, 0, 1, 0}, {0, -2, 0, 0, 1, 0}}};
-    const int32_t element = Add(plane.Add, plane.Good);
-    for (const auto& [call, given, byDistance, byPoint] : steps)
+        {"", {4, 5, 6, 0, 0, 0}, {-3, 0, 0, 0}, {4, 5, 6, 0, 0, 0}},
+        {"2", {7, 0, 0, 1e-7}, {7, 0, 0, 1e-7}, {4, 5, 6, 0, 0, 1e-7}},
+        {"2", {-2, 0, 4, 0}, {-2, 0, 1, 0}, {0, -2, 0, 0, 1, 0}}};
+    const int32_t element = Add("Element_Add_Plane", {-1, 0, 0, 1});
+    for (const auto& [form, given, byDistance, byPoint] : steps)
     {
-        Set(call, element, given);
-        EXPECT_EQ(Read(plane.Get, element), byDistance) << testing::PrintToString(given);
-        EXPECT_EQ(Read(planeByPoint.Get, element), byPoint) << testing::PrintToString(given);
+        EXPECT_EQ(Do("Element_Plane_SetValue" + form, element, given), STATUS_OK);
+        EXPECT_EQ(Read("Element_Plane_GetValue2", element), byDistance);
+        EXPECT_EQ(Read("Element_Plane_GetValue", element), byPoint);
     }
 }
 
 TEST_F(Shapes, CylinderIsTheSameByEndPointsAndByAxis)
 {
     const Numbers before = {0, 0, 0, 0, 0, 10, 2};
-    const int32_t element = Add(Tarvex_Element_Add_Cylinder, before);
+    const int32_t element = Add("Element_Add_Cylinder", before);
     // By axis; the ends afterwards, which stay if it is invalid, but not the radius.
-    const std::tuple<Numbers, int32_t, bool, Numbers> cases[] = {
-        {{1, 2, 3, 4, 0, 0, 5, 6}, STATUS_OK, true, {-2, 2, 3, 4, 2, 3, 5}},
-        {{0, 0, 0, 0, 2, 0, 1, -7}, STATUS_OK, true, {0, 3.5, 0, 0, -3.5, 0, 1}},
-        {{0, 0, 0, 0, 0, 1, 1, -8}, STATUS_OK, true, {0, 0, 4, 0, 0, -4, 1}},
-        {{0, 0, 0, 0, 2, 0, 1, -9}, STATUS_OK, false, {0, 0, 0, 0, 0, 10, 1}},
-        {{0, 0, 0, 0, 0, 0, 1, 5}, STATUS_TOO_SMALL, true, before},
-        {{0, 0, 0, 0, 0, 0, 1e-10, 5}, STATUS_OK, false, {0, 0, 0, 0, 0, 10, 1e-10}}};
-    for (const auto& [given, status, valid, ends] : cases)
+    const std::tuple<Numbers, int32_t, Numbers> cases[] = {
+        {{1, 2, 3, 4, 0, 0, 5, 6}, STATUS_OK, {-2, 2, 3, 4, 2, 3, 5}},
+        {{0, 0, 0, 0, 2, 0, 1, -7}, STATUS_OK, {0, 3.5, 0, 0, -3.5, 0, 1}},
+        {{0, 0, 0, 0, 0, 1, 1, -8}, STATUS_OK, {0, 0, 4, 0, 0, -4, 1}},
+        {{0, 0, 0, 0, 2, 0, 1, -9}, STATUS_OK, {0, 0, 0, 0, 0, 10, 1}},
+        {{0, 0, 0, 0, 0, 0, 1, 5}, STATUS_TOO_SMALL, before},
+        {{0, 0, 0, 0, 0, 0, 1e-10, 5}, STATUS_OK, {0, 0, 0, 0, 0, 10, 1e-10}}};
+    for (const auto& [given, status, ends] : cases)
     {
-        SCOPED_TRACE(testing::PrintToString(given));
-        EXPECT_EQ(Call(Tarvex_Element_Cylinder_SetValue, element, before), STATUS_OK);
-        EXPECT_EQ(Call(Tarvex_Element_Cylinder_SetValue2, element, given), status);
-        EXPECT_EQ(IsValid(element), valid);
-        EXPECT_EQ(Read(Tarvex_Element_Cylinder_GetValue, element), ends);
+        EXPECT_EQ(Do("Element_Cylinder_SetValue", element, before), STATUS_OK);
+        EXPECT_EQ(Do("Element_Cylinder_SetValue2", element, given), status);
+        EXPECT_EQ(Read("Element_Cylinder_GetValue", element), ends);
     }
-}
-
-TEST_F(Shapes, PolyhedronRefusesWhatHasNoShape)
-{
-    // Three points, and an axis of height 1.
-    const Numbers good = {3, 0, 8, 0, 0, 0, 0, 8, 0, 0, 8, 0, 0, 0, 0, 1, 1};
-    const int32_t element = Add(Tarvex_Element_Add_Polyhedron, good);
-    EXPECT_EQ(Tarvex_Element_Polyhedron_RemovePoint(Id, element, 0), STATUS_TOO_SMALL);
-    // Once spoilt, only SetValue makes it valid again.
-    EXPECT_EQ(Tarvex_Element_Polyhedron_SetHeight(Id, element, NaN), STATUS_OK);
-    EXPECT_EQ(Tarvex_Element_Polyhedron_SetHeight(Id, element, 1), STATUS_OK);
-    EXPECT_FALSE(IsValid(element));
-    EXPECT_EQ(Call(Tarvex_Element_Polyhedron_SetValue, element, good), STATUS_OK);
-    EXPECT_TRUE(IsValid(element));
-    // Refused for its height alone, it counts as valid and stays unseen.
-    EXPECT_EQ(Tarvex_Element_Polyhedron_ChangePoint(Id, element, 0, NaN, 0, 0), STATUS_OK);
-    Numbers flat = good;
-    flat.back() = 0;
-    EXPECT_EQ(Call(Tarvex_Element_Polyhedron_SetValue, element, flat), STATUS_TOO_SMALL);
-    EXPECT_TRUE(IsValid(element));
-    EXPECT_EQ(Tarvex_Window_SetActiveElement(Id, element), STATUS_OK);
-    EXPECT_EQ(CountLit(), 0);
 }
 } // namespace

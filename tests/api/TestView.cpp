@@ -1,4 +1,5 @@
-// A 3D view as a whole: its native window, its background, its box and its mouse switches.
+// A 3D view as a whole: its native window, its background, its picture and updates.
+#include "TarvexExt.h"
 #include "support/ViewFixture.h"
 
 namespace
@@ -42,11 +43,9 @@ TEST_F(AView, IsCreatedAndResizedToFourPixelsAtLeast)
         EXPECT_EQ(Tarvex_Window_SetBackgroundColor(other, 9, 9, 9), STATUS_OK);
         EXPECT_EQ(TakePicture(other).Count(IsLit), least[0] * least[1]);
         EXPECT_EQ(Tarvex_Window_Delete(other), STATUS_OK);
+        EXPECT_EQ(Host.Children().size(), 1U);
     }
-}
-
-TEST_F(AView, KeepsItsPositionWhenEitherCoordinateIsNegative)
-{
+    // A negative coordinate: it stays where it is.
     for (const auto& [x, y] : {std::pair(11, 12), {-1, 10}, {10, -1}})
     {
         EXPECT_EQ(Tarvex_Window_UpdateSize(Id, x, y, 60 + x, 70), STATUS_OK);
@@ -54,4 +53,42 @@ TEST_F(AView, KeepsItsPositionWhenEitherCoordinateIsNegative)
     }
 }
 
+TEST_F(AView, HasABlackPictureBeforeTheFirstRenderAndThenTheLastOne)
+{
+    EXPECT_EQ(TakePicture(Id).Width, Pixels);
+    EXPECT_EQ(TakePicture(Id).Height, Pixels);
+    EXPECT_EQ(CountLit(), 0);
+    EXPECT_EQ(Tarvex_Window_SetBackgroundColor(Id, 9, 8, 7), STATUS_OK);
+    AddPoint(0, 0, 0);
+    const Picture last = TakePicture(Id);
+    EXPECT_EQ(Tarvex_Window_UpdateSize(Id, 0, 0, 60, 50), STATUS_OK);
+    EXPECT_EQ(TakePicture(Id).CountDifferences(last), 0);
+    EXPECT_EQ(Tarvex_Window_SetBackgroundColor(Id, 3, 3, 3), STATUS_OK);
+    EXPECT_EQ(CountLit(), 60 * 50);
+    Picture small = TakePicture(Id);
+    const int32_t tooFew = 3 * 60 * 50 - 1;
+    EXPECT_EQ(
+        TarvexExt_Window_CopyImage(Id, small.Pixels.data(), tooFew, &small.Width, &small.Height),
+        STATUS_TOO_SMALL);
+}
+
+TEST_F(AView, HoldsItsPictureBackUntilTheLastUpdateEnds)
+{
+    LookDown();
+    ASSERT_EQ(TarvexExt_Window_BeginUpdate(Id), STATUS_OK);
+    ASSERT_EQ(TarvexExt_Window_BeginUpdate(Id), STATUS_OK);
+    AddPoint(0, 0, 0, 5);
+    EXPECT_EQ(Tarvex_Element_SetSize(Id, 1, 5), STATUS_BAD_INDEX);
+    EXPECT_EQ(Tarvex_Window_SetBackgroundColor(Id, 0, 0, 0), STATUS_OK);
+    Settle(); // nor do the events of the window draw
+    for (const bool isLast : {false, true})
+    {
+        EXPECT_EQ(CountLit(), 0);
+        ASSERT_EQ(TarvexExt_Window_EndUpdate(Id), STATUS_OK) << isLast;
+    }
+    EXPECT_GT(CountLit(), 100);
+    // Every change draws again.
+    EXPECT_EQ(Tarvex_Element_RemoveAll(Id), STATUS_OK);
+    EXPECT_EQ(CountLit(), 0);
+}
 } // namespace

@@ -1,6 +1,5 @@
 #include "LiteralImage.h"
 #include "elements2d/CImagePlot.h"
-#include "frame/FailingAllocations.h"
 #include "view2d/InsideChart.h"
 
 #include <cmath>
@@ -42,16 +41,6 @@ protected:
         Render();
         return Look();
     }
-    // The pixel, from the lower left corner, where a value lies.
-    double Locate(int side, double value) const
-    {
-        vtkAxis* axis = Axis(side);
-        const int direction = side == vtkAxis::BOTTOM ? 0 : 1;
-        const double first = axis->GetPoint1()[direction];
-        return first + (axis->GetPoint2()[direction] - first) * (value - axis->GetMinimum()) /
-                           (axis->GetMaximum() - axis->GetMinimum());
-    }
-
     int32_t Image = -1;
 };
 } // namespace
@@ -109,8 +98,9 @@ TEST_F(Image2D, LiesWhereTheAxesSayAlsoFarFromZeroAndBeyondTheSizeOfTextures)
         const Picture picture = Draw();
         const auto mark = picture.Centre([](const Picture::Color& color)
                                          { return color[0] > 200 && color[1] < 40; });
-        EXPECT_NEAR(mark[0], Locate(vtkAxis::BOTTOM, x + (column + 0.5) * scale), 1.0);
-        EXPECT_NEAR(picture.Height - mark[1], Locate(vtkAxis::LEFT, y + (row + 0.5) * scale), 1.5);
+        const ChartPoint middle = Locate({x + (column + 0.5) * scale, y + (row + 0.5) * scale});
+        EXPECT_NEAR(mark[0], middle.X, 1.0);
+        EXPECT_NEAR(mark[1], middle.Y, 1.0);
         const auto isRest = [](const Picture::Color& color) { return color[2] > 250 && !color[1]; };
         EXPECT_GT(picture.Count(isRest), 9000);
         // The mouse finds the corner pixel, in the plot's own, shifted numbers.
@@ -175,55 +165,11 @@ TEST_F(Image2D, ReducesShortsToBytes)
     {
         Tarvex_Element2D_Add_ImageShort(Id, pixels, 2, 2, 1, 1, 2, 0, 0, 3, 0, &Image);
         Bytes bytes(4);
-        double x[2];
-        double y[2];
-        double z[2];
-        EXPECT_EQ(
-            Tarvex_Element2D_Image_GetValue(Id, Image, bytes.data(), x, y, z, x + 1, y + 1, z + 1),
-            STATUS_OK);
+        double geometry[6];
+        Tarvex_Element2D_Image_GetValue(Id, Image, bytes.data(), geometry, geometry + 1,
+                                        geometry + 2, geometry + 3, geometry + 4, geometry + 5);
         EXPECT_EQ(bytes, expected);
-        EXPECT_EQ(z[0], scaleZ);
-        EXPECT_EQ(z[1], offsetZ);
+        EXPECT_EQ(geometry[2], scaleZ);
+        EXPECT_EQ(geometry[5], offsetZ);
     }
-}
-
-TEST_F(Image2D, IsTheOnlyOneAndKeepsItsStateWhenAChangeFails)
-{
-    const Bytes pixels = MakePixels(9, 8);
-    AddImage(pixels, 4, 3, 10, 20, 0.5);
-    const Picture before = Draw();
-    const struct
-    {
-        const uint8_t* Pixels;
-        int Columns, Rows;
-        double ScaleX, ScaleZ;
-        uint32_t Palette;
-        int32_t Status;
-        int FailingAllocation = 0;
-    } changes[] = {{pixels.data(), 65536, 65536, 1, 1, 7, STATUS_OUT_OF_RANGE},
-                   {pixels.data(), 65536, 32768, 1, 1, 1, STATUS_OUT_OF_MEMORY},
-                   {pixels.data(), 9, 8, 1, 1, 1, STATUS_OUT_OF_MEMORY, 1},
-                   {pixels.data(), 9, 8, 1, 1, 3, STATUS_OK}};
-    for (const auto& [given, columns, rows, x, z, palette, status, place] : changes)
-    {
-        // What has been there so far is still there.
-        EXPECT_EQ(Draw().CountDifferences(before), 0);
-        EXPECT_EQ(Bounds(0), (Numbers{10, 12, 20, 21.5}));
-        FailAllocation(place);
-        EXPECT_EQ(Tarvex_Element2D_Image_SetValueByte(Id, 0, given, columns, rows, x, 1, z, 10, 20,
-                                                      0, palette),
-                  status);
-        FailAllocation(place);
-        EXPECT_EQ(Tarvex_Element2D_Add_ImageByte(Id, given, columns, rows, x, 1, z, 10, 20, 0,
-                                                 palette, &Image),
-                  status);
-        StopFailing();
-        EXPECT_EQ(Image, status == STATUS_OK ? 0 : -1);
-    }
-    EXPECT_EQ(Read(Tarvex_Element2D_GetPalette_Image, 0), Numbers{3});
-    Tarvex_Element2D_SetSize(Id, 0, 4.0);
-    EXPECT_EQ(Read(Tarvex_Element2D_GetSize, 0, STATUS_WRONG_TYPE), Numbers{4});
-    Tarvex_Element2D_RemoveAll(Id);
-    AddImage(pixels, 4, 3);
-    EXPECT_EQ(Image, 1);
 }

@@ -1,11 +1,8 @@
 // A 3D view whose newest element is read back from its actor: what is drawn, and where.
 #pragma once
 
-#include "platform/Inside.h"
-#include "support/ViewFixture.h"
+#include "view3d/InsideScene.h"
 
-#include <vtkActor.h>
-#include <vtkActorCollection.h>
 #include <vtkBoundingBox.h>
 #include <vtkCell.h>
 #include <vtkMatrix4x4.h>
@@ -14,18 +11,17 @@
 
 using HostPoint = std::array<double, 3>;
 
-class ShapeView : public ViewFixture
+class ShapeView : public InsideScene
 {
 protected:
-    void AddNew(const Export& function, const Numbers& given)
+    void AddNew(const std::string& function, const Numbers& given)
     {
         Element = Add(function, given);
-        Inside(Id, [this](const CWindow& view)
-               { Actor = view.GetRenderer()->GetActors()->GetLastActor(); });
+        Actor = LastActor();
     }
-    void Set(const Export& function, const Numbers& given) const
+    void Set(const std::string& function, const Numbers& given) const
     {
-        EXPECT_EQ(Call(function, Element, given), STATUS_OK);
+        EXPECT_EQ(Do(function, Element, given), STATUS_OK);
     }
     // Neither drawn nor counted in the bounds of the scene.
     bool IsHidden() const
@@ -44,8 +40,7 @@ protected:
         ASSERT_EQ(points.size(), expected.size());
         for (size_t at = 0; at < expected.size(); ++at)
         {
-            EXPECT_THAT(points[at], testing::Pointwise(testing::DoubleNear(1e-5), expected[at]))
-                << "point " << at;
+            EXPECT_THAT(points[at], Near({expected[at].begin(), expected[at].end()}, 1e-5)) << at;
         }
     }
     void ExpectOutline(const std::vector<HostPoint>& expected) const
@@ -76,10 +71,9 @@ private:
             box.AddPoint(world);
             drawn.push_back({world[0], -world[1], world[2]});
         }
-        double bounds[6];
-        box.GetBounds(bounds);
-        EXPECT_THAT(Numbers(Actor->GetBounds(), Actor->GetBounds() + 6),
-                    testing::Pointwise(testing::DoubleNear(1e-5), bounds));
+        Numbers bounds(6);
+        box.GetBounds(bounds.data());
+        EXPECT_THAT(Numbers(Actor->GetBounds(), Actor->GetBounds() + 6), Near(bounds, 1e-5));
         return drawn;
     }
 };

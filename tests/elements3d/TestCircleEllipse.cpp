@@ -4,13 +4,13 @@
 
 TEST_F(ShapeView, CircleIsARingAroundItsCentreAcrossItsNormal)
 {
-    AddNew(Tarvex_Element_Add_Circle, {0, 0, 0, 0, 0, 0, 1});
+    AddNew("Element_Add_Circle", {0, 0, 0, 0, 0, 0, 1});
     for (const Numbers& v : {Numbers{1, 2, 3, 4, 0, 0, 5},
                              Numbers{0, -7, 0, 0.5, 0, -2, 0},
                              {3, 5, -2, 2, 1, 2, -2},
                              {0, 0, 0, 1, 1.5e308, 0, 1.5e308}})
     {
-        Set(Tarvex_Element_Circle_SetValue, v);
+        Set("Element_Circle_SetValue", v);
         EXPECT_FALSE(IsHidden());
         const std::vector<HostPoint> outline = Outline();
         ASSERT_EQ(outline.size(), 101U);
@@ -41,14 +41,14 @@ TEST_F(ShapeView, EllipseHasAPointADegreeAndTurnsFromXToY)
     for (const auto& [angle, onA, onB] : cases)
     {
         SCOPED_TRACE(angle);
-        AddNew(Tarvex_Element_Add_Ellipse, {1, 2, 3, 4, 2, angle});
+        AddNew("Element_Add_Ellipse", {1, 2, 3, 4, 2, angle});
         std::vector<HostPoint> expected = Outline();
         ASSERT_EQ(expected.size(), 361U);
         expected[0] = expected[360] = onA;
         expected[90] = onB;
         ExpectOutline(expected);
-        Set(Tarvex_Element_Ellipse_SetValue, {0, 0, 0, 1, 1, 0});
-        Set(Tarvex_Element_Ellipse_SetValue, {1, 2, 3, 4, 2, angle});
+        Set("Element_Ellipse_SetValue", {0, 0, 0, 1, 1, 0});
+        Set("Element_Ellipse_SetValue", {1, 2, 3, 4, 2, angle});
         ExpectOutline(expected);
     }
 }

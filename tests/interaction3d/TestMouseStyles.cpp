@@ -3,11 +3,7 @@
 #include "elements3d/CElement_Draggable.h"
 #include "support/MouseFixture.h"
 
-#include <vtkActorCollection.h>
 #include <vtkTextActor.h>
-
-#include <atomic>
-#include <thread>
 
 namespace
 {
@@ -22,22 +18,21 @@ protected:
         LookDown();
         EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 0, 0, 12), STATUS_OK);
     }
-    int32_t AddActive(const Export& add, const Numbers& values) const
+    int32_t AddActive(const std::string& add, const Numbers& values) const
     {
         LookClosely();
         return MouseFixture::AddActive(add, values);
     }
     int32_t AddActiveCube(double x = 0) const
     {
-        return AddActive(Tarvex_Element_Add_Cube, {x, 0, 0, 1, 1, 1, 0, 1});
+        return AddActive("Element_Add_Cube", {x, 0, 0, 1, 1, 1, 0, 1});
     }
     // Where a host position is seen, from the upper left corner.
     Pixel PixelOf(const Vector3& host) const
     {
-        vtkRenderer* renderer = View().GetRenderer();
-        renderer->SetWorldPoint(host[0], -host[1], host[2], 1.0);
-        renderer->WorldToDisplay();
-        const double* display = renderer->GetDisplayPoint();
+        Renderer()->SetWorldPoint(host[0], -host[1], host[2], 1.0);
+        Renderer()->WorldToDisplay();
+        const double* display = Renderer()->GetDisplayPoint();
         return {static_cast<int>(std::lround(display[0])),
                 Pixels - 1 - static_cast<int>(std::lround(display[1]))};
     }
@@ -50,32 +45,27 @@ protected:
     void DragBy(const Pixel& from, int dx, int dy) { Drag(1, from, {from.X + dx, from.Y + dy}, 5); }
     // By the handle in the middle of its upper face.
     void DragCube(int32_t cube) { DragBy(PixelOf(HandleAt(cube, 1)), 20, 10); }
-    double CubeX(int32_t cube) const { return Read(Tarvex_Element_Cube_GetValue, cube)[0]; }
-    int CountActors() const { return View().GetRenderer()->GetActors()->GetNumberOfItems(); }
+    double CubeX(int32_t cube) const { return Read("Element_Cube_GetValue", cube)[0]; }
 };
 } // namespace
 
 TEST_F(MouseStyles, DragAHandleOfEachKindByAsMuchAsTheMouse)
 {
-    const struct
-    {
-        Export Add;
-        Numbers Values;
-        int32_t Handle;
-    } cases[] = {
-        {Tarvex_Element_Add_Cube, {0.5, 0, 0, 2, 1, 2, 0, 1}, 1},
-        {Tarvex_Element_Add_Cube, {0.5, 0, 0, 2, 1, 2, 30, 1}, 6},
-        {Tarvex_Element_Add_Cylinder, {0, 0, -1, 0, 0, 1, 0.5}, 1},
-        {Tarvex_Element_Add_Polyhedron, {3, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 2}, 1}};
+    const std::tuple<std::string, Numbers, int32_t> cases[] = {
+        {"Element_Add_Cube", {0.5, 0, 0, 2, 1, 2, 0, 1}, 1},
+        {"Element_Add_Cube", {0.5, 0, 0, 2, 1, 2, 30, 1}, 6},
+        {"Element_Add_Cylinder", {0, 0, -1, 0, 0, 1, 0.5}, 1},
+        {"Element_Add_Polyhedron", {3, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 2}, 1}};
     for (const auto& way : cases)
     {
         SCOPED_TRACE(&way - cases);
-        const int32_t element = AddActive(way.Add, way.Values);
-        const Vector3 before = HandleAt(element, way.Handle);
+        const auto& [add, values, handle] = way;
+        const int32_t element = AddActive(add, values);
+        const Vector3 before = HandleAt(element, handle);
         const Pixel from = PixelOf(before);
         heard.clear();
         DragBy(from, 24, -12);
-        const Vector3 after = HandleAt(element, way.Handle);
+        const Vector3 after = HandleAt(element, handle);
         const Pixel now = PixelOf(after);
         EXPECT_EQ(now.X, from.X + 24);
         EXPECT_EQ(now.Y, from.Y - 12);
@@ -88,7 +78,7 @@ TEST_F(MouseStyles, DragAHandleOfEachKindByAsMuchAsTheMouse)
 
 TEST_F(MouseStyles, ShowWhatTheyHoverOver)
 {
-    const int32_t cube = AddActive(Tarvex_Element_Add_Cube, {0, 0, 0.5, 3, 3, 1, 0, 0});
+    const int32_t cube = AddActive("Element_Add_Cube", {0, 0, 0.5, 3, 3, 1, 0, 0});
     const auto cursorAt = [&](const Pixel& at)
     {
         MoveTo(at);
@@ -111,14 +101,11 @@ TEST_F(MouseStyles, ShowWhatTheyHoverOver)
         renders.Count = 0;
         MoveTo(at);
         EXPECT_EQ(renders.Count, 1);
-        Vector3 read = {};
+        Numbers read(3);
         ASSERT_EQ(std::sscanf(View().GetPickTextActor()->GetInput(), "X: %lf Y: %lf Z: %lf",
                               &read[0], &read[1], &read[2]),
                   3);
-        for (size_t axis = 0; axis < 3; ++axis)
-        {
-            EXPECT_NEAR(read[axis], host[axis], 0.04) << axis;
-        }
+        EXPECT_THAT(read, Near({host.begin(), host.end()}, 0.04));
         EXPECT_EQ(CountActors(), actors + 1);
         EXPECT_NE(TakePicture(Id).At(at.X, at.Y), plain.At(at.X, at.Y));
     }
@@ -168,19 +155,15 @@ TEST_F(MouseStyles, TakeASecondPressForAnother)
 TEST_F(MouseStyles, DropADragWhenItsTargetGoes)
 {
     const int32_t other = AddActiveCube(1.5);
-    const struct
+    const std::function<void(int32_t)> cases[] = {
+        [&](int32_t) { Tarvex_Window_SetActiveElement(Id, -1); },
+        [&](int32_t) { Tarvex_Window_SetActiveElement(Id, other); },
+        [&](int32_t cube) { Tarvex_Element_Remove(Id, cube); },
+        [&](int32_t) { Tarvex_Window_EnableInteraction(Id, 0); },
+        [&](int32_t) { Tarvex_Window_EnableMouseInteraction(Id, 1, 1, 1); }};
+    for (const auto& act : cases)
     {
-        const char* Name;
-        std::function<void(int32_t)> Act;
-    } cases[] = {
-        {"none active", [&](int32_t) { Tarvex_Window_SetActiveElement(Id, -1); }},
-        {"another active", [&](int32_t) { Tarvex_Window_SetActiveElement(Id, other); }},
-        {"removed", [&](int32_t cube) { Tarvex_Element_Remove(Id, cube); }},
-        {"switched off", [&](int32_t) { Tarvex_Window_EnableInteraction(Id, 0); }},
-        {"switched on", [&](int32_t) { Tarvex_Window_EnableMouseInteraction(Id, 1, 1, 1); }}};
-    for (const auto& way : cases)
-    {
-        SCOPED_TRACE(way.Name);
+        SCOPED_TRACE(&act - cases);
         const int32_t cube = AddActiveCube(-0.5);
         heard.clear();
         const Pixel from = PixelOf(HandleAt(cube, 1));
@@ -191,7 +174,7 @@ TEST_F(MouseStyles, DropADragWhenItsTargetGoes)
         MoveTo({from.X + 5, from.Y});
         const double moved = CubeX(cube);
         EXPECT_GT(moved, -0.5);
-        way.Act(cube);
+        act(cube);
         EXPECT_LE(CountActors(), actors);
         const Picture before = TakePicture(Id);
         MoveTo({from.X + 15, from.Y + 8});
@@ -214,38 +197,13 @@ TEST_F(MouseStyles, LetTheHostDoAnythingWhenAnElementWasDragged)
                      });
 }
 
-TEST_F(MouseStyles, WorkWhileAnotherThreadCalls)
-{
-    const int32_t cube = AddActiveCube();
-    ASSERT_EQ(Tarvex_Window_PickCoordinates_Show(Id, 1), STATUS_OK);
-    std::atomic<bool> stop = false;
-    std::atomic<int> calls = 0;
-    std::thread caller(
-        [&]
-        {
-            for (uint8_t red = 0; !stop; ++red)
-            {
-                const bool fine = Tarvex_Window_SetBackgroundColor(Id, red, 0, 0) == STATUS_OK &&
-                                  Tarvex_Element_SetColor(Id, cube, 200, red, 0) == STATUS_OK &&
-                                  Tarvex_Window_PickCoordinates_Show(Id, red % 2) == STATUS_OK;
-                calls += fine ? 1 : -1000000;
-            }
-        });
-    DragCube(cube);
-    DragCube(cube);
-    stop = true;
-    caller.join();
-    EXPECT_GT(calls, 10);
-    EXPECT_EQ(heard, Told('d') + Told('d'));
-}
-
 TEST_F(MouseStyles, DragHandlesOnlyBetweenDrawingGestures)
 {
     const int32_t cube = AddActiveCube();
     ASSERT_EQ(Tarvex_Window_SetDrawMode(Id, TARVEX_DRAW_POLYHEDRON), STATUS_OK);
     DragCube(cube);
     EXPECT_EQ(heard, Told('d'));
-    EXPECT_EQ(Read(Tarvex_Element_GetCount), Numbers{1});
+    EXPECT_EQ(CountElements(), 1);
     const double x = CubeX(cube);
     for (const Pixel& at : {Pixel{60, 140}, PixelOf(HandleAt(cube, 1)), Pixel{140, 150}})
     {
@@ -253,7 +211,7 @@ TEST_F(MouseStyles, DragHandlesOnlyBetweenDrawingGestures)
         Click(1);
     }
     Click(3);
-    EXPECT_EQ(Read(Tarvex_Element_Polyhedron_GetPointCount, cube + 1), Numbers{3});
+    EXPECT_EQ(Read("Element_Polyhedron_GetPointCount", cube + 1), Numbers{3});
     EXPECT_EQ(heard, Told('d') + Told('a'));
     EXPECT_EQ(CubeX(cube), x);
 }

@@ -1,9 +1,7 @@
 // The picker of one pixel beside VTK's own.
 #include "interaction3d/CScenePicker.h"
-#include "platform/Inside.h"
-#include "support/ViewFixture.h"
+#include "view3d/InsideScene.h"
 
-#include <vtkActor.h>
 #include <vtkMath.h>
 #include <vtkPropPicker.h>
 
@@ -26,7 +24,7 @@ double DepthStep(vtkRenderer* renderer, const Vector3& position)
     return Distance(ToWorld(renderer, 0, 0, depth), ToWorld(renderer, 0, 0, depth + step).data());
 }
 
-class ScenePicker : public ViewFixture
+class ScenePicker : public InsideScene
 {
 protected:
     ScenePicker()
@@ -42,16 +40,11 @@ protected:
         int32_t surface = -1;
         Tarvex_Element_Add_SurfaceUniform(Id, heights.data(), nullptr, 130, 90, 0.2, 0.2, 0.002, 0,
                                           0, 0, 0, &surface);
-        const int32_t point = AddPoint(3, 3, 4);
-        Tarvex_Element_SetSize(Id, point, 2);
-        const int32_t glass = Add(Tarvex_Element_Add_Cube, {1, 12, 8, 4, 6, 6, 6, 0, 0, 0});
+        AddPoint(3, 3, 4, 2);
+        const int32_t glass = Add("Element_Add_Cube", {12, 8, 4, 6, 6, 6, 0, 1});
         Tarvex_Element_SetTransparency(Id, glass, 0.6);
-        const int32_t nothing = AddPoint(20, 14, 4);
-        Tarvex_Element_SetSize(Id, nothing, 3);
-        Tarvex_Element_SetTransparency(Id, nothing, 1.0);
-        const int32_t hidden = AddPoint(22, 4, 4);
-        Tarvex_Element_SetSize(Id, hidden, 3);
-        Tarvex_Element_Show(Id, hidden, 0);
+        Tarvex_Element_SetTransparency(Id, AddPoint(20, 14, 4, 3), 1.0);
+        Tarvex_Element_Show(Id, AddPoint(22, 4, 4, 3), 0);
         AddLine(0, 0, 6, 1, 1, 0);
         Tarvex_Window_ScalarBar_Add(Id, surface);
     }
@@ -60,21 +53,16 @@ protected:
 
 TEST_F(ScenePicker, FindsWhatVtkFindsAndLeavesThePictureAlone)
 {
-    const struct
+    const Numbers directions[] = {
+        {0.1, 0, -1, 0, 0, 1}, {1, 2, -1.5, 0, 0, 1}, {-2, 1, -1, 0, 0, 1}};
+    for (const Numbers& direction : directions)
     {
-        bool Parallel;
-        double Direction[3];
-    } cameras[] = {{false, {0.1, 0, -1}}, {false, {1, 2, -1.5}}, {true, {-2, 1, -1}}};
-    for (const auto& camera : cameras)
-    {
-        SCOPED_TRACE(&camera - cameras);
-        const double* to = camera.Direction;
-        ASSERT_EQ(Tarvex_Window_Camera_EnableParallelProjection(Id, camera.Parallel), STATUS_OK);
-        ASSERT_EQ(Tarvex_Window_Camera_SetViewDirection(Id, to[0], to[1], to[2], 0, 0, 1),
-                  STATUS_OK);
+        SCOPED_TRACE(testing::PrintToString(direction));
+        const bool isParallel = direction[0] < 0;
+        ASSERT_EQ(Tarvex_Window_Camera_EnableParallelProjection(Id, isParallel), STATUS_OK);
+        ASSERT_EQ(Do("Window_Camera_SetViewDirection", direction), STATUS_OK);
         ASSERT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
         const Picture before = TakePicture(Id);
-        vtkRenderer* renderer = ViewOf(Id).GetRenderer();
         struct Found
         {
             int X, Y;
@@ -83,20 +71,19 @@ TEST_F(ScenePicker, FindsWhatVtkFindsAndLeavesThePictureAlone)
         };
         std::vector<Found> found;
         CScenePicker picker;
-        for (int y = -3; y <= Pixels + 3; y += 7)
+        for (int at = 0; at < 900; ++at)
         {
-            for (int x = -4; x <= Pixels + 3; x += 7)
-            {
-                picker.Forget();
-                const Vector3 position = picker.Pick(renderer, x, y);
-                found.push_back({x, y, picker.GetProp(), position});
-            }
+            const int x = at % 30 * 7 - 4;
+            const int y = at / 30 * 7 - 3;
+            picker.Forget();
+            const Vector3 position = picker.Pick(Renderer(), x, y);
+            found.push_back({x, y, picker.GetProp(), position});
         }
         for (const bool rendered : {false, true})
         {
             EXPECT_EQ(TakePicture(Id).CountDifferences(before), 0) << rendered;
             EXPECT_EQ(Host.TakeScreen(NativeOf(Id)).CountDifferences(before), 0) << rendered;
-            ViewOf(Id).GetRenderWindow()->Render();
+            Render();
         }
 
         int hits = 0;
@@ -104,10 +91,10 @@ TEST_F(ScenePicker, FindsWhatVtkFindsAndLeavesThePictureAlone)
         for (const Found& ours : found)
         {
             SCOPED_TRACE(testing::Message() << ours.X << ", " << ours.Y);
-            hits += stock->PickProp(ours.X, ours.Y, renderer);
+            hits += stock->PickProp(ours.X, ours.Y, Renderer());
             EXPECT_EQ(ours.Prop, stock->GetViewProp());
             EXPECT_LE(Distance(ours.Position, stock->GetPickPosition()),
-                      DepthStep(renderer, ours.Position));
+                      DepthStep(Renderer(), ours.Position));
         }
         EXPECT_GT(hits, 100);
     }

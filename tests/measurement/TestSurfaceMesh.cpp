@@ -1,8 +1,7 @@
-#include "SurfaceScene.h"
+#include "MeasuredView.h"
 
 #include "measurement/NonUniformSamples.h"
 #include "measurement/SurfaceMesh.h"
-#include "measurement/UniformSamples.h"
 
 #include <gtest/gtest.h>
 
@@ -10,23 +9,10 @@
 
 namespace
 {
-SurfaceMesh Build(const Samples& samples, bool withIsolated)
-{
-    const int16_t* heights = samples.Heights.data();
-    if (samples.X.empty())
-    {
-        const auto own = UniformSamples::CopyOf({heights}, samples.Grid);
-        return SurfaceMeshBuilder<UniformSamples>(own, samples.Grid).Build(withIsolated);
-    }
-    const auto own =
-        NonUniformSamples::CopyOf({samples.X.data(), samples.Y.data(), heights}, samples.Grid);
-    return SurfaceMeshBuilder<NonUniformSamples>(own, samples.Grid).Build(withIsolated);
-}
-
 // Free positions: five by two, all missing but the fifth of the first row, at raw (40, 0).
 Samples OneSample()
 {
-    Samples samples = MakeFlat(5, 2);
+    Samples samples(5, 2);
     samples.Place(10, 10);
     samples.Heights.assign(10, Missing);
     samples.At(4, 0) = 3;
@@ -37,13 +23,14 @@ Samples OneSample()
 // The quad of the only isolated sample: x and y of its first and of its last corner.
 std::array<double, 4> OnlyQuad(const Samples& samples)
 {
-    const SurfaceMesh mesh = Build(samples, true);
+    const auto own = NonUniformSamples::CopyOf(
+        {samples.X.data(), samples.Y.data(), samples.Heights.data()}, samples.Grid);
+    const SurfaceMesh mesh = SurfaceMeshBuilder<NonUniformSamples>(own, samples.Grid).Build(true);
     EXPECT_EQ(mesh.Isolated.size(), 1U);
-    std::array<double, 3> first{};
-    std::array<double, 3> last{};
-    mesh.PolyData->GetPoint(mesh.PolyData->GetNumberOfPoints() - 4, first.data());
-    mesh.PolyData->GetPoint(mesh.PolyData->GetNumberOfPoints() - 1, last.data());
-    return {first[0], first[1], last[0], last[1]};
+    double corners[2][3];
+    mesh.PolyData->GetPoint(mesh.PolyData->GetNumberOfPoints() - 4, corners[0]);
+    mesh.PolyData->GetPoint(mesh.PolyData->GetNumberOfPoints() - 1, corners[1]);
+    return {corners[0][0], corners[0][1], corners[1][0], corners[1][1]};
 }
 } // namespace
 

@@ -1,12 +1,6 @@
 // The picture of a surface against the one that VTK's own mapper makes of the same samples.
-#include "SurfaceScene.h"
-
-#include "Tarvex.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
+#include "LiteralSurface.h"
+#include "MeasuredView.h"
 
 #include <vtkCamera.h>
 #include <vtkPropPicker.h>
@@ -26,105 +20,114 @@ struct Case
     int32_t Columns = 200;
     int32_t Rows = 150;
     bool IsFree = false; // with positions beside the grid
+
+    Samples Make() const;
 };
 
-class SurfaceOnScreen : public testing::TestWithParam<Case>
+class SurfaceOnScreen : public MeasuredView, public testing::WithParamInterface<Case>
 {
-};
-
-const auto IsSurface = [](const Picture::Color& color) {
-    return color != Picture::Color{25, 50, 75};
-};
-
-template <class Surface>
-void ExpectLikeStock(const Case& tested, const Samples& data)
-{
-    SurfaceScene scene;
-    LiteralInput input = scene.Literal(data);
-    input.FullCellsOnly = tested.FullCellsOnly;
-    input.Opacity = 1.0 - tested.Transparency;
-    Surface surface;
-    ASSERT_EQ(scene.Add(surface, data, tested.FullCellsOnly), STATUS_OK);
-    ASSERT_EQ(surface.SetTransparency(tested.Transparency), STATUS_OK);
-    if (tested.ByIntensity)
+protected:
+    SurfaceOnScreen() : MeasuredView(400, 300)
     {
-        input.Intensities = data.Intensities.data();
-        input.Palette = 5;
-        input.Range[0] = 0.0;
-        input.Range[1] = 255.0;
-        ASSERT_EQ(surface.ShowIntensity(true), STATUS_OK);
+        Tarvex_Window_SetBackgroundColor(Id, 25, 50, 75);
+        Renderer()->GetBackground(Input.Background);
     }
-    if (const auto& [min, max] = tested.Range; min != max)
-    {
-        input.Range[0] = min;
-        input.Range[1] = max;
-        ASSERT_EQ(surface.SetZScaling(false, 0.0, min, max), STATUS_OK);
-    }
-    const LiteralSurface literal(input);
-    const vtkSmartPointer<vtkActor> own = scene.GetActor();
-    if (tested.IsFree)
-    {
-        auto* points = vtkPolyData::SafeDownCast(own->GetMapper()->GetInput())->GetPoints();
-        ASSERT_EQ(points->GetNumberOfPoints(), literal.PolyData->GetNumberOfPoints());
-        literal.PolyData->SetPoints(points);
-    }
-    scene.Show(literal.Actor);
-    scene.Renderer->GetActiveCamera()->Elevation(-35.0);
-    scene.Renderer->ResetCamera();
-    tested.Aim(scene.Renderer->GetActiveCamera());
 
-    const auto pickAll = [&](vtkActor* actor)
+    // Adds the surface, and makes the stock one of the same samples.
+    vtkActor* AddBoth()
     {
-        std::vector<double> places;
+        const Case& tested = GetParam();
+        const std::string type = tested.IsFree ? "SurfaceNonUniform" : "SurfaceUniform";
+        const int32_t surface = AddSurface(Data, tested.FullCellsOnly);
+        Tarvex_Element_SetLighting(Id, surface, 0.3, 0.4, 0.3, 0);
+        Tarvex_Element_SetTransparency(Id, surface, tested.Transparency);
+        Input.Heights = Data.Heights.data();
+        Input.Columns = Data.Grid.Columns;
+        Input.Rows = Data.Grid.Rows;
+        std::ranges::copy(Data.Grid.Scale, Input.Scale);
+        std::ranges::copy(Data.Grid.Offset, Input.Offset);
+        Input.ShiftAndScale = false;
+        Input.FullCellsOnly = tested.FullCellsOnly;
+        Input.Opacity = 1.0 - tested.Transparency;
+        const auto isLower = [](int16_t left, int16_t right)
+        { return left != Missing && (right == Missing || left < right); };
+        std::array range = {Data.Grid.Place(2, *std::ranges::min_element(Data.Heights, isLower)),
+                            Data.Grid.Place(2, *std::ranges::max_element(Data.Heights))};
+        if (tested.ByIntensity)
+        {
+            Input.Intensities = Data.Intensities.data();
+            Input.Palette = 5;
+            range = {0.0, 255.0};
+            EXPECT_EQ(Do("Element_ShowIntensity_" + type, surface, {1}), STATUS_OK);
+        }
+        if (tested.Range[0] != tested.Range[1])
+        {
+            range = tested.Range;
+            Do("Element_ZScalingPalette_" + type, surface, {0, 0, range[0], range[1]});
+        }
+        std::ranges::copy(range, Input.Range);
+        Stock = std::make_unique<LiteralSurface>(Input);
+        if (tested.IsFree)
+        {
+            EXPECT_EQ(GetDrawn()->GetNumberOfPoints(), Stock->PolyData->GetNumberOfPoints());
+            Stock->PolyData->SetPoints(GetDrawn()->GetPoints());
+        }
+        return LastActor();
+    }
+    // The actor alone, seen by the present camera.
+    Picture Show(vtkActor* actor) const
+    {
+        Renderer()->RemoveAllViewProps();
+        Renderer()->AddActor(actor);
+        Renderer()->ResetCameraClippingRange();
+        Render();
+        return TakePicture(Id);
+    }
+    // Where pixels hit it.
+    Numbers PickAll(vtkActor* actor) const
+    {
+        Numbers places;
         for (int pixel = 0; pixel < 20; ++pixel)
         {
             vtkNew<vtkPropPicker> picker;
             const bool isHit =
-                picker->PickProp(10 + pixel / 4 * 95, 10 + pixel % 4 * 70, scene.Renderer) != 0;
+                picker->PickProp(10 + pixel / 4 * 95, 10 + pixel % 4 * 70, Renderer()) != 0;
             EXPECT_EQ(picker->GetActor(), isHit ? actor : nullptr);
             const double* place = picker->GetPickPosition();
             // A miss differs from every hit.
             places.insert(places.end(), {isHit ? place[0] : 1e6, place[1], place[2]});
         }
         return places;
-    };
-    const Picture stockPicture = scene.Show(literal.Actor);
-    const std::vector<double> stockPlaces = pickAll(literal.Actor);
-    const Picture picture = scene.Show(own);
-    const std::vector<double> places = pickAll(own);
-    // The corners of a triangle come in another order than VTK's, which makes a difference in the
-    // last bit of what is interpolated: a pixel in some thousand takes the neighbouring colour.
-    EXPECT_GT(stockPicture.Count(IsSurface), 400);
-    EXPECT_LE(picture.CountDifferences(stockPicture), 120);
-    for (size_t i = 0; i < places.size(); ++i)
-    {
-        EXPECT_NEAR(places[i], stockPlaces[i], 1e-3) << i;
     }
-    for (int i = 0; i < 6; ++i)
-    {
-        EXPECT_EQ(own->GetBounds()[i], literal.Actor->GetBounds()[i]) << i;
-    }
-}
+
+    Samples Data = GetParam().Make();
+    LiteralInput Input;
+    std::unique_ptr<LiteralSurface> Stock;
+};
 } // namespace
 
 TEST_P(SurfaceOnScreen, IsShownAndPickedAsByTheStockMapper)
 {
-    Samples data = MakeHills(GetParam().Columns, GetParam().Rows);
-    GetParam().Change(data);
-    if (!GetParam().IsFree)
-    {
-        ExpectLikeStock<CElement_SurfaceUniform>(GetParam(), data);
-        return;
-    }
-    data.Place(100, 100);
-    data.Grid.Scale[0] = data.Grid.Scale[1] = 0.01;
-    for (size_t i = 0; i < data.X.size(); ++i)
-    {
-        // Folded in X.
-        data.X[i] = static_cast<int16_t>(std::abs(data.X[i] + (i * 7919) % 61 - 12000.0));
-        data.Y[i] = static_cast<int16_t>(data.Y[i] - (i * 104729) % 53);
-    }
-    ExpectLikeStock<CElement_SurfaceNonUniform>(GetParam(), data);
+    const vtkSmartPointer<vtkActor> own = AddBoth();
+    vtkActor* stock = Stock->Actor;
+    Show(stock);
+    vtkCamera* camera = Renderer()->GetActiveCamera();
+    camera->Elevation(-35.0);
+    Renderer()->ResetCamera();
+    GetParam().Aim(camera);
+
+    const Picture stockPicture = Show(stock);
+    const Numbers stockPlaces = PickAll(stock);
+    const Picture picture = Show(own);
+    // The corners of a triangle come in another order than VTK's, which makes a difference in the
+    // last bit of what is interpolated: a pixel in some thousand takes the neighbouring colour.
+    const auto isSurface = [](const Picture::Color& color) {
+        return color != Picture::Color{25, 50, 75};
+    };
+    EXPECT_GT(stockPicture.Count(isSurface), 400);
+    EXPECT_LE(picture.CountDifferences(stockPicture), 120);
+    EXPECT_THAT(PickAll(own), Near(stockPlaces, 1e-3));
+    EXPECT_TRUE(std::equal(own->GetBounds(), own->GetBounds() + 6, stock->GetBounds()));
 }
 
 namespace
@@ -146,6 +149,26 @@ void ZoomInParallel(vtkCamera* camera)
 {
     camera->ParallelProjectionOn();
     camera->Zoom(8.0);
+}
+
+const auto PunchHoles = std::mem_fn(&Samples::PunchHoles);
+
+Samples Case::Make() const
+{
+    Samples data = MakeHills(Columns, Rows);
+    Change(data);
+    if (IsFree)
+    {
+        data.Place(100, 100);
+        data.Grid.Scale[0] = data.Grid.Scale[1] = 0.01;
+    }
+    for (size_t i = 0; i < data.X.size(); ++i)
+    {
+        // Folded in X.
+        data.X[i] = static_cast<int16_t>(std::abs(data.X[i] + (i * 7919) % 61 - 12000.0));
+        data.Y[i] = static_cast<int16_t>(data.Y[i] - (i * 104729) % 53);
+    }
+    return data;
 }
 
 const Case cases[] = {

@@ -3,6 +3,7 @@
 
 #include "TarvexExt.h"
 #include "view2d/InsideChart.h"
+#include "view3d/InsideScene.h"
 
 #include <stdexcept>
 
@@ -12,12 +13,6 @@ extern "C" struct __GLXcontextRec* glXGetCurrentContext();
 struct Pixel // from the upper left corner of the view
 {
     int X, Y;
-};
-
-class InsideScene : public ViewFixture
-{
-protected:
-    CWindow& View() const { return ViewOf(Id); }
 };
 
 // The two kinds of view by the calls that they have in common.
@@ -94,11 +89,11 @@ protected:
     }
     std::string Told(char kind) const { return kind + std::to_string(Id) + " "; }
     NativeWindow Native() const { return NativeOf<typename Kind::View>(Id); }
-    int32_t AddActive(const Export& add, const Numbers& values) const
+    int32_t AddActive(const std::string& add, const Numbers& values) const
     {
         const int32_t element = this->Add(add, values);
         EXPECT_EQ(Kind::SetActiveElement(Id, element), STATUS_OK);
-        View().GetRenderWindow()->Render();
+        this->Render();
         return element;
     }
 
@@ -131,17 +126,13 @@ protected:
     void Begin(const std::vector<Pixel>& points)
     {
         const bool clicks = points.size() > 2;
-        for (const Pixel& point : points)
+        MoveTo(points[0]);
+        Press(1);
+        for (size_t at = 1; at < points.size(); ++at)
         {
-            if (&point != points.data() && clicks)
-            {
-                Release(1);
-            }
-            MoveTo(point);
-            if (&point == points.data() || clicks)
-            {
-                Press(1);
-            }
+            clicks ? Release(1) : void();
+            MoveTo(points[at]);
+            clicks ? Press(1) : void();
         }
     }
     void Finish(const std::vector<Pixel>& points)
@@ -206,7 +197,12 @@ protected:
         return Kind::Look(Id).Count([](const Picture::Color& color)
                                     { return color[0] > 99 && color[1] > 99 && color[2] < 60; });
     }
-    double CountElements() const { return this->Read(Kind::GetCount).at(0); }
+    int32_t CountElements() const
+    {
+        int32_t count = -1;
+        Kind::GetCount(Id, &count);
+        return count;
+    }
 
     int32_t Other = TARVEX_NONE; // an element that is not the one of the gesture
 };

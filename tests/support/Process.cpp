@@ -1,5 +1,7 @@
 #include "support/Process.h"
 
+#include "support/Effort.h"
+
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -12,18 +14,20 @@
 
 std::vector<std::string> testArguments;
 
-int CountDescriptors()
+namespace
 {
-    const std::filesystem::directory_iterator entries("/proc/self/fd");
+int CountEntries(const char* folder)
+{
+    const std::filesystem::directory_iterator entries(folder);
     return static_cast<int>(std::distance(begin(entries), end(entries)));
 }
+} // namespace
 
-long ResidentKilobytes()
+Holdings::Holdings()
+    : Descriptors(CountEntries("/proc/self/fd")), Threads(CountEntries("/proc/self/task"))
 {
-    long total = 0;
-    long resident = 0;
-    std::ifstream("/proc/self/statm") >> total >> resident;
-    return resident * (sysconf(_SC_PAGESIZE) / 1024);
+    std::ifstream("/proc/self/statm") >> Kilobytes >> Kilobytes; // the second number
+    Kilobytes *= sysconf(_SC_PAGESIZE) / 1024;
 }
 
 void RunInProcesses(const std::string& suite)
@@ -36,7 +40,8 @@ void RunInProcesses(const std::string& suite)
         for (int test = 0; candidate.name() == suite && test < candidate.total_test_count(); ++test)
         {
             const std::string name = suite + "." + candidate.GetTestInfo(test)->name();
-            std::string command = "exec timeout -s KILL 120";
+            const std::string seconds = std::to_string(Effort(120, 1200));
+            std::string command = "exec timeout -s KILL " + seconds;
             for (const std::string& argument : testArguments)
             {
                 command += " '" + argument + "'";

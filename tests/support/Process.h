@@ -9,8 +9,15 @@
 // What followed GoogleTest's flags on the command line, first the program.
 extern std::vector<std::string> testArguments;
 
-int CountDescriptors();
-long ResidentKilobytes();
+// What it holds at the moment.
+struct Holdings
+{
+    Holdings();
+
+    int Descriptors;
+    int Threads;
+    long Kilobytes = 0; // in memory
+};
 
 // Runs each test of a suite, named DISABLED_ so that nobody else does, in a fresh process of this
 // program up to its normal end, static destructors and all. Fails unless all end with exit 0.
@@ -26,6 +33,7 @@ public:
     TestServer& operator=(const TestServer&) = delete;
 
     void Kill();
+    bool IsAlive() const { return Server > 0; }
 
 private:
     const std::string DisplayBefore;

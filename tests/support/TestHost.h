@@ -40,6 +40,8 @@ public:
     void Press(unsigned button);
     void Release(unsigned button);
     void Drag(NativeWindow window, unsigned button, int x0, int y0, int x1, int y1, int steps = 5);
+    // A mouse event alone, by the server but not from a hand: button 0 for a motion.
+    void Send(NativeWindow window, int x, int y, unsigned button, bool press);
     // A key by its name, "q" or "Escape", down and up.
     void TypeKey(const char* name);
 

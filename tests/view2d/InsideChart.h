@@ -1,6 +1,7 @@
 // A chart view from the inside: its chart, axes and plots.
 #pragma once
 
+#include "elements2d/ChartPoint.h"
 #include "platform/Inside.h"
 #include "support/ViewFixture.h"
 
@@ -26,6 +27,23 @@ protected:
             ranges.push_back(axis->GetUnscaledMaximum());
         }
         return ranges;
+    }
+    // Chart units in a pixel, on each axis.
+    ChartPoint Unit() const
+    {
+        const Numbers range = Ranges();
+        const int* first = Chart()->GetPoint1();
+        const int* last = Chart()->GetPoint2();
+        return {(range[1] - range[0]) / (last[0] - first[0]),
+                (range[3] - range[2]) / (last[1] - first[1])};
+    }
+    // The pixel, from the upper left corner, where a place lies.
+    ChartPoint Locate(const ChartPoint& place) const
+    {
+        const int* first = Chart()->GetPoint1();
+        const int height = View().GetRenderWindow()->GetSize()[1];
+        return {first[0] + (place.X - Ranges()[0]) / Unit().X,
+                height - 1 - first[1] - (place.Y - Ranges()[2]) / Unit().Y};
     }
     vtkPlot* TopPlot(int below = 0) const
     {

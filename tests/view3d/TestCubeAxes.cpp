@@ -1,18 +1,16 @@
 // What the scale frame shows: its Y labels against the places where they stand.
-#include "platform/Inside.h"
-#include "support/ViewFixture.h"
 #include "view3d/CCubeAxesActor.h"
+#include "view3d/InsideScene.h"
 
 #include <vtkAxisFollower.h>
 
 #include <cmath>
 #include <cstdlib>
 
-using CubeAxes = ViewFixture;
+using CubeAxes = InsideScene;
 
 TEST_F(CubeAxes, LabelsReadTheHostYOfTheirPlaceAfterEachChangeOfBoundsInEveryFlyMode)
 {
-    CCubeAxesActor* actor = nullptr;
     // Crossing zero, one-sided, large, small, and back again on the same actor.
     const double cases[][3] = {
         {-5, 25, 0.01}, {-3.5, -3, 0.001}, {-2.5e6, 1.5e6, 1e3}, {0, 1e-3, 1e-6}, {-5, 25, 0.01}};
@@ -25,9 +23,8 @@ TEST_F(CubeAxes, LabelsReadTheHostYOfTheirPlaceAfterEachChangeOfBoundsInEveryFly
         ASSERT_EQ(Tarvex_Window_Cube_FlyMode(Id, round % 5), STATUS_OK);
         Tarvex_Window_Camera_SetViewDirection(Id, -0.5, round % 3 - 0.7, -0.4, 0, 0, 1);
         ASSERT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
-        Inside(Id, [&](const CWindow& view) { actor = view.GetCubeAxes(); });
         int count = 0;
-        for (CInvertedAxisActor* axis : actor->GetDrawnYAxes())
+        for (CInvertedAxisActor* axis : View().GetCubeAxes()->GetDrawnYAxes())
         {
             // Labels are in units of the exponent in the title.
             const std::string title = axis->GetTitle();
