@@ -3,6 +3,7 @@
 #
 #   ./test.sh            the dev preset
 #   ./test.sh asan       the same under the address, undefined behaviour and leak sanitizers
+#   ./test.sh tsan       the tests of several threads under the thread sanitizer
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 preset=${1:-dev}

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what packages.txt lists and this machine lacks. Asks no questions; does nothing when all is there.
+# Installs what lists of packages name and this machine lacks, by default packages.txt. Asks no
+# questions; does nothing when all is there: scripts/install-packages.sh [LIST..]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -7,7 +8,7 @@ missing=()
 while read -r package; do
   [[ -z "$package" || "$package" == \#* ]] && continue
   dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
-done <packages.txt
+done < <(cat "${@:-packages.txt}")
 [[ ${#missing[@]} -eq 0 ]] && exit 0
 
 echo "installing: ${missing[*]}"
