@@ -78,9 +78,9 @@ int32_t Show(Situation& now)
 {
     const ModelElement& element = *now.Element;
     const bool isCircle = element.Type == TARVEX_ELEMENT_CIRCLE && now.View->OnChart;
-    return isCircle && !element.Valid         ? STATUS_INVALID_VALUES
-           : element.Unbuilt || element.Empty ? STATUS_NOT_READY
-                                              : STATUS_OK;
+    return isCircle && !element.Valid ? STATUS_INVALID_VALUES
+           : element.Empty            ? STATUS_NOT_READY
+                                      : STATUS_OK;
 }
 
 // In the order in which the defaults are handed out, from the transparency on.

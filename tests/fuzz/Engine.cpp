@@ -407,6 +407,11 @@ void Engine::TakeOverDrawn(ModelView& view)
         element.Id = ask(Tarvex_Element_GetIDFromIndex, Tarvex_Element2D_GetIDFromIndex, index);
         element.Type = ask(Tarvex_Element_GetType, Tarvex_Element2D_GetType, element.Id);
         element.FirstLighting = element.Lighting;
+        // What is drawn on one spot is no shape.
+        uint8_t valid = 0;
+        (onChart ? Tarvex_Element2D_HasValidValues
+                 : Tarvex_Element_HasValidValues)(view.Id, element.Id, &valid);
+        element.Valid = valid != 0;
         element.Values.assign(7, anyNumber);
         element.Mode = 1; // closed
         if (element.Id != view.NextElement++)

@@ -244,9 +244,9 @@ void TellChartProfiles(Rules& rules)
         rules[prefix + type + "GetValue"] = [](Situation& now)
         {
             now.Arrays = now.Element->Points;
-            return now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT
-                   : now.Element->Empty           ? STATUS_NOT_READY
-                                                  : STATUS_OK;
+            return now.Element->Empty               ? STATUS_NOT_READY
+                   : now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT
+                                                    : STATUS_OK;
         };
     }
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace
 {
@@ -39,6 +40,13 @@ int32_t SetDrawSpace(Situation& now)
     const bool flat =
         now.View->OnChart ? now.Given[1] - now.Given[0] <= 0.1 : IsFlat(now.Given, 0, 1e-6);
     now.View->DrawSpace = flat ? now.View->DrawSpace : now.Given;
+    for (ModelElement& element : now.View->Elements)
+    {
+        if (element.Type == TARVEX_ELEMENT_LINE && !now.View->OnChart && !flat)
+        {
+            element.Values.assign(2, anyNumber); // where it leaves the box
+        }
+    }
     return flat ? STATUS_TOO_SMALL : STATUS_OK;
 }
 
@@ -84,14 +92,16 @@ int32_t SetDrawMode(Situation& now)
 int32_t SetViewDirection(Situation& now)
 {
     const Numbers& v = now.Given;
+    // GCC's hypot of three takes a NaN for 0.
+    const double nothing = 0 * std::accumulate(v.begin(), v.end(), 0.0);
     const double direction = std::hypot(v[0], v[1], v[2]);
     const double up = std::hypot(v[3], v[4], v[5]);
     const double cross =
         std::hypot(v[1] * v[5] - v[2] * v[4], v[2] * v[3] - v[0] * v[5], v[0] * v[4] - v[1] * v[3]);
-    return !(direction < 1e6 && up < 1e6)  ? anyStatus // rounding decides
-           : direction < 1e-5 || up < 1e-5 ? STATUS_ZERO_VECTOR
-           : cross < 1e-6 * direction * up ? STATUS_PARALLEL_VECTORS
-                                           : STATUS_OK;
+    return !(direction + nothing < 1e6 && up < 1e6) ? anyStatus // rounding decides
+           : direction < 1e-5 || up < 1e-5          ? STATUS_ZERO_VECTOR
+           : cross < 1e-6 * direction * up          ? STATUS_PARALLEL_VECTORS
+                                                    : STATUS_OK;
 }
 
 int32_t SetFrame(Situation& now)
