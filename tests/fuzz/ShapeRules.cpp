@@ -157,7 +157,9 @@ bool StoreLine2D(ModelElement& element, const Numbers& given, bool)
 {
     const Numbers points(given.begin(), given.begin() + 4);
     const Numbers along = {points[0], points[1], points[2] - points[0], points[3] - points[1]};
-    const bool valid = StoreRay2D(element, along, true) && AreUsable(points);
+    StoreRay2D(element, along, true);
+    // The difference of two infinities is no direction, and not looked at.
+    const bool valid = AreUsable(points) && !(SquareSum(along, 2, 2) < 1e-12);
     element.Values = given[4] != 0 || !valid ? IfNear(points, valid) : element.Values;
     return valid;
 }
