@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -180,13 +181,14 @@ private:
         return status == 0;
     }
 
-    // Leaves out whatever can be left out, in ever smaller pieces.
+    // Leaves out whatever can be left out, in ever smaller pieces, for some minutes.
     Bytes Shrink(const Bytes& bytes) const
     {
         std::vector<Bytes> calls = Split(bytes);
+        const auto end = std::chrono::steady_clock::now() + std::chrono::minutes(3);
         for (size_t piece = calls.size() / 2; piece > 0; piece /= 2)
         {
-            for (size_t at = 0; at < calls.size();)
+            for (size_t at = 0; at < calls.size() && std::chrono::steady_clock::now() < end;)
             {
                 std::vector<Bytes> fewer = calls;
                 const auto from = fewer.begin() + static_cast<ptrdiff_t>(at);
