@@ -37,11 +37,6 @@ int32_t CElement_Draggable2D::SetActive(bool active)
     return STATUS_OK;
 }
 
-vtkPlotPoints* CElement_Draggable2D::GetHandlePlot() const
-{
-    return Valid && IsActive() ? Plots.back() : nullptr;
-}
-
 int32_t CElement_Draggable2D::FindHandle(double x, double y, double tolerance) const
 {
     if (!IsActive() || !IsVisible())

@@ -14,8 +14,6 @@ public:
     // Handles on or off. An invalid element refuses both, but shows none from then on either.
     int32_t SetActive(bool active);
     bool IsActive() const { return Handles != nullptr; }
-    // Null unless valid and active. The same plot serves as long as the element is active.
-    vtkPlotPoints* GetHandlePlot() const;
     // The nearest to (x, y) of the handles less than `tolerance` away in X and in Y, all in chart
     // coordinates; -1 if there is none or if none can be seen.
     int32_t FindHandle(double x, double y, double tolerance) const;

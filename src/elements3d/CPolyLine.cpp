@@ -52,8 +52,3 @@ vtkAlgorithmOutput* CPolyLine::GetOutputPort() const
 {
     return Producer->GetOutputPort();
 }
-
-vtkPolyData* CPolyLine::GetPolyData() const
-{
-    return PolyData;
-}

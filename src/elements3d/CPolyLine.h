@@ -23,7 +23,6 @@ public:
 
     // For the mapper.
     vtkAlgorithmOutput* GetOutputPort() const;
-    vtkPolyData* GetPolyData() const;
 
 private:
     vtkSmartPointer<vtkPolyData> PolyData;

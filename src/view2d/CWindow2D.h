@@ -66,8 +66,6 @@ public:
     void DrawEnd();
 
     vtkChartHistogram2D* GetChart() const;
-    MyDefaultInteractorStyle2D* GetDefaultStyle() const;
-    MyDrawInteractorStyle2D* GetDrawStyle() const;
     // The active element; null if there is none.
     CElement_Draggable2D* GetDragTarget() const { return DragTarget; }
 

@@ -85,13 +85,3 @@ void CWindow2D::DragActiveElement(int32_t handle, double x, double y, bool finis
         CallHost(ElementDraggedCallback, Id, ActiveElementId);
     }
 }
-
-MyDefaultInteractorStyle2D* CWindow2D::GetDefaultStyle() const
-{
-    return DefaultStyle;
-}
-
-MyDrawInteractorStyle2D* CWindow2D::GetDrawStyle() const
-{
-    return DrawStyle;
-}

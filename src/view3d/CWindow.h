@@ -117,7 +117,6 @@ public:
     vtkScalarBarActor* GetScalarBar() const;
     vtkTextActor* GetPickTextActor() const;
     MyDefaultInteractorStyle* GetDefaultStyle() const;
-    MyDrawMouseInteractorStyle* GetDrawStyle() const;
 
 private:
     // The camera with everything in front of it visible, then a picture.

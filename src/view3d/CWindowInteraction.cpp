@@ -157,8 +157,3 @@ MyDefaultInteractorStyle* CWindow::GetDefaultStyle() const
 {
     return DefaultStyle;
 }
-
-MyDrawMouseInteractorStyle* CWindow::GetDrawStyle() const
-{
-    return DrawStyle;
-}
