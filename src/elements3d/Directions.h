@@ -19,7 +19,8 @@ inline bool GivesDirection(const Vector3& vector)
 inline void MakeUnit(Vector3& vector)
 {
     double length = vtkMath::Norm(vector.data());
-    if (!std::isfinite(length))
+    // Not where it is NaN, which hypot takes for 0.
+    if (std::isinf(length))
     {
         // Of a quarter, whose length surely fits. Not for all vectors: hypot would take some of
         // length 1 for a little longer.
