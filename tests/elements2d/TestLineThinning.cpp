@@ -3,9 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <random>
 #include <set>
-#include <utility>
 
 namespace
 {
@@ -15,32 +16,24 @@ std::set<std::pair<int, int>> Cover(const std::vector<PlotPlace>& line)
     std::set<std::pair<int, int>> covered;
     for (size_t at = 1; at < line.size(); ++at)
     {
-        const PlotPlace a = line[at - 1];
-        const PlotPlace b = line[at];
-        for (int x = static_cast<int>(std::floor(a.X)) - 1; x <= std::floor(b.X) + 1; ++x)
+        const auto& [a, b] = std::tie(line[at - 1], line[at]);
+        const auto [lowest, highest] = std::minmax(a.Y, b.Y);
+        for (int x = static_cast<int>(a.X); x <= b.X; ++x)
         {
-            for (int y = static_cast<int>(std::floor(std::min(a.Y, b.Y))) - 1;
-                 y <= std::floor(std::max(a.Y, b.Y)) + 1; ++y)
+            for (int y = static_cast<int>(lowest); y <= highest; ++y)
             {
-                // Turned by 45 degrees the diamond is a square about the origin.
-                const double ends[2][2] = {{a.X + a.Y - x - y - 1.0, b.X + b.Y - x - y - 1.0},
-                                           {a.X - a.Y - x + y, b.X - b.Y - x + y}};
-                double from = 0.0;
-                double to = 1.0;
-                for (const auto& [start, end] : ends)
+                // Nearest to the pixel's middle it is at an end, or level with it in X or Y.
+                const double dx = b.X - a.X;
+                const double dy = b.Y - a.Y;
+                const double left = x + 0.5 - a.X;
+                const double below = y + 0.5 - a.Y;
+                for (const double part : {0.0, 1.0, left / dx, below / dy})
                 {
-                    const double length = end - start;
-                    if (length == 0.0)
+                    const double along = std::clamp(part, 0.0, 1.0);
+                    if (std::abs(along * dx - left) + std::abs(along * dy - below) < 0.5)
                     {
-                        to = std::abs(start) < 0.5 ? to : -1.0;
-                        continue;
+                        covered.emplace(x, y);
                     }
-                    from = std::max(from, (-std::copysign(0.5, length) - start) / length);
-                    to = std::min(to, (std::copysign(0.5, length) - start) / length);
-                }
-                if (from < to)
-                {
-                    covered.emplace(x, y);
                 }
             }
         }
@@ -51,21 +44,18 @@ std::set<std::pair<int, int>> Cover(const std::vector<PlotPlace>& line)
 
 TEST(LineThinning, CoversTheSamePixels)
 {
-    unsigned random = 7;
-    const auto next = [&random]
-    {
-        random = random * 1664525U + 1013904223U;
-        return static_cast<double>(random >> 8U) / (1U << 24U);
-    };
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> next;
     for (int line = 0; line < 60; ++line)
     {
-        const double noise = std::pow(10.0, next() * 4.0 - 3.0);
-        const double slope = next() * 4.0 - 2.0;
+        const double noise = std::pow(10.0, next(random) * 4.0 - 3.0);
+        const double slope = next(random) * 4.0 - 2.0;
         std::vector<PlotPlace> places;
-        for (double x = 10.0 * next(); x < 40.0; x += next() < 0.1 ? 0.0 : next() * 0.1)
+        for (double x = 10.0 * next(random); x < 40.0;
+             x += next(random) < 0.1 ? 0.0 : next(random) * 0.1)
         {
-            places.push_back({static_cast<float>(x),
-                              static_cast<float>(100.0 + slope * x + noise * (next() - 0.5))});
+            const double y = 100.0 + slope * x + noise * (next(random) - 0.5);
+            places.push_back({static_cast<float>(x), static_cast<float>(y)});
         }
         std::vector<PlotPlace> thinned;
         ThinLine(places, {1.0, 1.0, 0.0}, thinned);

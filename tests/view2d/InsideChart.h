@@ -7,7 +7,7 @@
 
 #include <vtkAxis.h>
 #include <vtkChartHistogram2D.h>
-#include <vtkPlot.h>
+#include <vtkPlotPoints.h>
 
 class InsideChart : public ChartFixture
 {
@@ -45,9 +45,11 @@ protected:
         return {first[0] + (place.X - Ranges()[0]) / Unit().X,
                 height - 1 - first[1] - (place.Y - Ranges()[2]) / Unit().Y};
     }
-    vtkPlot* TopPlot(int below = 0) const
+    // Of all but the image.
+    vtkPlotPoints* TopPlot(int below = 0) const
     {
-        return Chart()->GetPlot(Chart()->GetNumberOfPlots() - 1 - below);
+        return vtkPlotPoints::SafeDownCast(
+            Chart()->GetPlot(Chart()->GetNumberOfPlots() - 1 - below));
     }
     // What an element says of its extent, both ends of X, then of Y.
     Numbers Bounds(int32_t element) const
