@@ -125,18 +125,16 @@ TEST_F(Image2D, LeavesNothingBehindWhenItIsHiddenOrRemovedOrGetsAnotherPalette)
 TEST_F(Image2D, ReducesShortsToBytes)
 {
     constexpr double gap = TARVEX_INVALID_VALUE;
-    const struct
-    {
-        Numbers Pixels, Expected;
-        double ScaleZ, OffsetZ;
-    } cases[] = {{{0, 255, gap, 7}, {0, 255, 0, 7}, 2, 3},
-                 {{gap, gap, gap, gap}, {0, 0, 0, 0}, 2, 3},
-                 {{100, gap, 100, 100}, {1, 1, 1, 1}, 2, 3},
-                 {{0, 256, gap, 128}, {1, 255, 0, 128}, 2 / (254.0 / 256), 3 + 2 / (254.0 / 256)},
-                 {{-32767, 32767, gap, 0},
-                  {1, 255, 0, 128},
-                  2 / (254.0 / 65534),
-                  -32767 * 2.0 + 3.0 + 2 / (254.0 / 65534)}};
+    // Shorts, bytes, scale and offset in Z.
+    const std::tuple<Numbers, Numbers, double, double> cases[] = {
+        {{0, 255, gap, 7}, {0, 255, 0, 7}, 2, 3},
+        {{gap, gap, gap, gap}, {0, 0, 0, 0}, 2, 3},
+        {{100, gap, 100, 100}, {1, 1, 1, 1}, 2, 3},
+        {{0, 256, gap, 128}, {1, 255, 0, 128}, 2 / (254.0 / 256), 3 + 2 / (254.0 / 256)},
+        {{-32767, 32767, gap, 0},
+         {1, 255, 0, 128},
+         2 / (254.0 / 65534),
+         -32767 * 2.0 + 3.0 + 2 / (254.0 / 65534)}};
     for (const auto& [pixels, expected, scaleZ, offsetZ] : cases)
     {
         Numbers given = pixels;

@@ -16,15 +16,16 @@ std::set<std::pair<int, int>> Cover(const std::vector<PlotPlace>& line)
     std::set<std::pair<int, int>> covered;
     for (size_t at = 1; at < line.size(); ++at)
     {
-        const auto& [a, b] = std::tie(line[at - 1], line[at]);
+        const PlotPlace a = line[at - 1];
+        const PlotPlace b = line[at];
         const auto [lowest, highest] = std::minmax(a.Y, b.Y);
         for (int x = static_cast<int>(a.X); x <= b.X; ++x)
         {
             for (int y = static_cast<int>(lowest); y <= highest; ++y)
             {
                 // Nearest to the pixel's middle it is at an end, or level with it in X or Y.
-                const double dx = b.X - a.X;
-                const double dy = b.Y - a.Y;
+                const double dx = double{b.X} - a.X;
+                const double dy = double{b.Y} - a.Y;
                 const double left = x + 0.5 - a.X;
                 const double below = y + 0.5 - a.Y;
                 for (const double part : {0.0, 1.0, left / dx, below / dy})

@@ -41,29 +41,27 @@ protected:
 
 TEST_F(Profiles2D, HaveAPlotForEachRunOfValidSamplesOnTopOfThoseBefore)
 {
-    const struct
-    {
-        int32_t Profile;
-        std::string Change;
-        Numbers Given;         // heights, where X counts from 0
-        std::vector<int> Rows; // of all plots from the lowest up, negative where it has crosses
-    } steps[] = {{1, "SetValue", {1, 2}, {4, 2}},
-                 {0, "SetValue", {1, 2, Gap, 4}, {2, 2, -1}},
-                 {0, "AttachValues", {5}, {2, 2, 2}},
-                 {0, "AttachValues", {6, Gap, 7, Gap}, {2, 2, 3, -1}},
-                 {0, "AttachValues", {Gap, 5}, {2, 2, 3, -1, -1}},
-                 {1, "AttachValues", {Gap}, {2, 3, -1, -1, 2}},
-                 {1, "AttachValues", {Gap, Gap, Gap, -5}, {2, 3, -1, -1, 2, -1}},
-                 {0, "SetValue", {Gap, 2, 3, Gap}, {2, -1, 2}},
-                 {0, "SetValue", {Gap, Gap}, {2, -1}},
-                 {0, "SetValue", {1, -32767, 3}, {2, -1, 3}},
-                 {0, "SetValue", {1, Gap, 3, Gap}, {2, -1, -1, -1}}};
+    // Profile, change, heights (X counts from 0), and the rows of all plots from the lowest up,
+    // negative where it has crosses.
+    const std::tuple<int32_t, std::string, Numbers, std::vector<int>> steps[] = {
+        {1, "SetValue", {1, 2}, {4, 2}},
+        {0, "SetValue", {1, 2, Gap, 4}, {2, 2, -1}},
+        {0, "AttachValues", {5}, {2, 2, 2}},
+        {0, "AttachValues", {6, Gap, 7, Gap}, {2, 2, 3, -1}},
+        {0, "AttachValues", {Gap, 5}, {2, 2, 3, -1, -1}},
+        {1, "AttachValues", {Gap}, {2, 3, -1, -1, 2}},
+        {1, "AttachValues", {Gap, Gap, Gap, -5}, {2, 3, -1, -1, 2, -1}},
+        {0, "SetValue", {Gap, 2, 3, Gap}, {2, -1, 2}},
+        {0, "SetValue", {Gap, Gap}, {2, -1}},
+        {0, "SetValue", {1, -32767, 3}, {2, -1, 3}},
+        {0, "SetValue", {1, Gap, 3, Gap}, {2, -1, -1, -1}}};
     for (int profile = 0; profile < 2; ++profile)
     {
         Add("Element2D_Add_ProfileNonUniform_KorData", {0, 1, 2, 3, 1, 1, 1, 1, 4});
     }
-    for (const auto& [profile, change, heights, rows] : steps)
+    for (const auto& step : steps)
     {
+        const auto& [profile, change, heights, rows] = step;
         Numbers given = {static_cast<double>(heights.size()), 0, 1, 2, 3};
         given.insert(given.end(), heights.begin(), heights.end());
         given.resize(9);
@@ -77,7 +75,7 @@ TEST_F(Profiles2D, HaveAPlotForEachRunOfValidSamplesOnTopOfThoseBefore)
             const auto count = static_cast<int>(plot->GetInput()->GetNumberOfRows());
             all.push_back(plot->GetMarkerStyle() == vtkPlotPoints::CROSS ? -count : count);
         }
-        EXPECT_EQ(all, rows) << &heights - &steps[0].Given;
+        EXPECT_EQ(all, rows) << &step - steps;
     }
     // Times 7 and 7 more.
     EXPECT_EQ(Bounds(1), (Numbers{7, 28, -28, 21}));
@@ -85,17 +83,17 @@ TEST_F(Profiles2D, HaveAPlotForEachRunOfValidSamplesOnTopOfThoseBefore)
 
 TEST_F(Profiles2D, AreMeasuredByWhatIsValidAndAFloatMayNotHold)
 {
-    // By the entry in the hosted names: as long as may be, and longer.
-    for (const auto& [name, expected] :
-         {std::pair(4, std::string(255, 'n')), {5, std::string("Non-uniform spaced profile 1")}})
+    const auto add = [this](double name)
     {
-        const int32_t profile =
-            Add("Element2D_Add_ProfileNonUniform_GeneralData",
-                {5, 1, 2, 3, 9, NaN, 2, 1e39, 0, 1, 2, 1, 4, static_cast<double>(name)});
-        EXPECT_EQ(Bounds(profile), (Numbers{2, 3, 2, 1e39}));
-        EXPECT_EQ(TopPlot()->GetInput()->GetColumnName(1), expected);
-        EXPECT_EQ(TopPlot()->GetMarkerStyle(), vtkPlotPoints::CROSS);
-    }
+        return Add("Element2D_Add_ProfileNonUniform_GeneralData",
+                   {5, 1, 2, 3, 9, NaN, 2, 1e39, 0, 1, 2, 1, 4, name});
+    };
+    // By their entry in the hosted names: as long as may be, and longer.
+    EXPECT_EQ(Bounds(add(4)), (Numbers{2, 3, 2, 1e39}));
+    EXPECT_EQ(TopPlot()->GetInput()->GetColumnName(1), std::string(255, 'n'));
+    EXPECT_EQ(TopPlot()->GetMarkerStyle(), vtkPlotPoints::CROSS);
+    add(5);
+    EXPECT_STREQ(TopPlot()->GetInput()->GetColumnName(1), "Non-uniform spaced profile 1");
 }
 
 TEST_F(Profiles2D, LookAsStockPlotsDo)

@@ -32,28 +32,25 @@ protected:
 
 TEST_F(Shapes2D, CutLinesWithoutEndsToTheDrawSpace)
 {
-    const struct
+    // As given, as drawn, and in a wider space.
+    const std::tuple<Numbers, Numbers, Numbers> cases[] = {
+        {{3, 0, 0, 1}, {3, -50, 3, 50}, {3, -60, 3, 60}},
+        {{0, 2, 1, 0}, {-50, 2, 50, 2}, {-90, 2, 90, 2}},
+        {{0, 0, -1, -1}, {-50, -50, 50, 50}, {-60, -60, 60, 60}},
+        {{0, 0, 1, -2}, {-25, 50, 25, -50}, {-30, 60, 30, -60}},
+        {{100, 0, 0, 1}, {100, -10, 100, 10}, {100, -10, 100, 10}},
+        {{0, 60, 1, 1}, {-50, 10, -10, 50}, {-90, -30, 0, 60}}};
+    for (const auto& [given, drawn, wider] : cases)
     {
-        Numbers Given;
-        Numbers Drawn;
-        Numbers Wider;
-    } cases[] = {{{3, 0, 0, 1}, {3, -50, 3, 50}, {3, -60, 3, 60}},
-                 {{0, 2, 1, 0}, {-50, 2, 50, 2}, {-90, 2, 90, 2}},
-                 {{0, 0, -1, -1}, {-50, -50, 50, 50}, {-60, -60, 60, 60}},
-                 {{0, 0, 1, -2}, {-25, 50, 25, -50}, {-30, 60, 30, -60}},
-                 {{100, 0, 0, 1}, {100, -10, 100, 10}, {100, -10, 100, 10}},
-                 {{0, 60, 1, 1}, {-50, 10, -10, 50}, {-90, -30, 0, 60}}};
-    for (const auto& each : cases)
-    {
-        EXPECT_THAT(Drawn(Add("Element2D_Add_Line", each.Given)), Near(each.Drawn, 1e-5));
+        EXPECT_THAT(Drawn(Add("Element2D_Add_Line", given)), Near(drawn, 1e-5));
     }
     const int32_t segment = Add("Element2D_Add_Line_2Points", {-80, 0, 80, 0, 1});
     EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, 0, 0.2, 5, 5), STATUS_OK) << "not for the lines";
-    EXPECT_THAT(Drawn(0), Near(cases[0].Drawn, 1e-5));
+    EXPECT_THAT(Drawn(0), Near({3, -50, 3, 50}, 1e-5));
     EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, -90, 90, -60, 60), STATUS_OK);
     for (int32_t element = 0; element < segment; ++element)
     {
-        EXPECT_THAT(Drawn(element), Near(cases[element].Wider, 1e-5));
+        EXPECT_THAT(Drawn(element), Near(std::get<2>(cases[element]), 1e-5));
     }
     EXPECT_THAT(Drawn(segment), Near({-80, 0, 80, 0}));
     EXPECT_EQ(Tarvex_Window2D_SetDrawSpace(Id, 1e7, 1e7 + 90, 1e7, 1e7 + 90), STATUS_OK);
