@@ -123,11 +123,18 @@ TEST_F(ChartMouse, DragsHandles)
          {-28, -12, 16, 8, 0}},
         {"Rectangle", {0, 0, -40, 16, 0}, {{20, -8}, {36, -8}, {32, -16}}, {6, -4, 52, 24, 0}},
         {"Polygon", {3, -20, 20, 0, 0, -15, -15, 30, 0, 1}, {{0, 0}, {5, 6}}, {-15, -9, 1}},
+        {"Polygon", {3, -20, 20, 0, 0, -15, -15, 30, 0, 1}, {{-20, -15}, {-26, -9}}, {-26, -9, 1}},
         // The axes from 1000 to 1005, more or less.
         {"Circle", {1002.5, 1002.5, 2.3}, {{1002.5, 1002.5}, {1003, 1002}}, {1003, 1002, 2.3}}};
+    // A drag begins anew, wherever the last one of the handle has crossed to.
+    const int32_t crossed = AddActive("Element2D_Add_Rectangle", {0, 0, 40, 16, 0});
+    DragAlong({{20, 8}, {-36, -16}});
+    DragAlong({{-20, -8}, {0, 8}});
+    ExpectValues("Rectangle", crossed, {-18, -4, 36, 24, 0});
     for (const auto& [type, values, way, expected] : cases)
     {
         SCOPED_TRACE(testing::PrintToString(values));
+        heard.clear();
         const int32_t element = AddActive("Element2D_Add_" + type, values);
         if (values[0] > 1000)
         {
@@ -146,7 +153,6 @@ TEST_F(ChartMouse, DragsHandles)
         DragAlong({way.back(), {way[0].X, way[0].Y - 9 * Unit().Y}});
         EXPECT_EQ(heard, Told('a'));
         Tarvex_Element2D_RemoveAll(Id);
-        heard.clear();
     }
 }
 
