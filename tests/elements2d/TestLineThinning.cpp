@@ -28,7 +28,8 @@ std::set<std::pair<int, int>> Cover(const std::vector<PlotPlace>& line)
                 const double dy = double{b.Y} - a.Y;
                 const double left = x + 0.5 - a.X;
                 const double below = y + 0.5 - a.Y;
-                for (const double part : {0.0, 1.0, left / dx, below / dy})
+                for (const double part :
+                     {0.0, 1.0, dx > 0.0 ? left / dx : 0.0, dy != 0.0 ? below / dy : 0.0})
                 {
                     const double along = std::clamp(part, 0.0, 1.0);
                     if (std::abs(along * dx - left) + std::abs(along * dy - below) < 0.5)
