@@ -119,7 +119,7 @@ void CProfilePlot::PaintLine(vtkContext2D* painter, PlotPlace* places, vtkIdType
     // Wide lines are rectangles, one for each pair of samples: their corners depend on each.
     constexpr float thin = 1.0F;
     constexpr vtkIdType few = 1000;
-    if (!Thinning || !Ordered || count < few || Pen->GetWidth() > thin)
+    if (!Ordered || count < few || Pen->GetWidth() > thin)
     {
         draw(places, count);
         return;

@@ -13,9 +13,6 @@ public:
     static CProfilePlot* New();
     vtkTypeMacro(CProfilePlot, vtkPlotLine);
 
-    // Whether a line may leave out samples that cover no pixel of their own. For comparison.
-    void SetThinning(bool thinning) { Thinning = thinning; }
-
     void Update() override;
     bool Paint(vtkContext2D* painter) override;
     // Nothing: the axes of a chart view are set, no plot widens them.
@@ -35,7 +32,6 @@ private:
     void CopyPoints(const vtkTable& table);
     void PaintLine(vtkContext2D* painter, PlotPlace* places, vtkIdType count);
 
-    bool Thinning = true;
     bool Ordered = false;           // X never decreases, and there are no gaps
     std::vector<PlotPlace> Thinned; // of the line being painted
 };
