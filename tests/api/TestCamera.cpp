@@ -14,15 +14,6 @@ protected:
         got.insert(got.end(), turn.begin(), turn.end());
         return got;
     }
-    void Turn(const Numbers& to) const
-    {
-        EXPECT_EQ(Do("Window_Camera_SetViewDirection", to), STATUS_OK);
-    }
-    void MoveTo(double x, double y, double z) const
-    {
-        EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, x, y, z), STATUS_OK);
-    }
-    void Zoom(double factor) const { Tarvex_Window_Camera_SetZoom(Id, factor); }
 };
 
 TEST_F(Camera, LooksAtTheOriginFromAnAxisInEachPredefinedView)
@@ -44,8 +35,8 @@ TEST_F(Camera, FramesTheSceneInAPredefinedViewAndWithAutoSize)
     EXPECT_THAT(TakePicture(Id).Centre(IsLit), testing::Each(testing::DoubleNear(100, 2)));
     EXPECT_NEAR(Get()[0], 30, 0.1);
     EXPECT_NEAR(Get()[1], -40, 0.1);
-    Turn({0.6, 0, -0.8, 0, 1, 0});
-    MoveTo(500, 500, 500);
+    Do("Window_Camera_SetViewDirection", {0.6, 0, -0.8, 0, 1, 0});
+    Do("Window_Camera_SetPosition", {500, 500, 500});
     EXPECT_EQ(CountLit(), 0) << "out of sight";
     EXPECT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
     EXPECT_GT(CountLit(), Pixels * Pixels / 10);
@@ -63,8 +54,8 @@ TEST_F(Camera, TurnsAroundItsFocalPointAndStraightensALeaningUpVector)
     for (const auto& [given, expected] : cases)
     {
         LookDown();
-        MoveTo(5, 6, 100); // looks at (5, 6, 0)
-        Turn(given);
+        Do("Window_Camera_SetPosition", {5, 6, 100}); // looks at (5, 6, 0)
+        Do("Window_Camera_SetViewDirection", given);
         EXPECT_THAT(Get(), Near(expected));
     }
 }
@@ -76,16 +67,16 @@ TEST_F(Camera, ZoomsRelativelyAndDistanceMattersInPerspectiveOnly)
     {
         LookDown();
         EXPECT_EQ(Tarvex_Window_Camera_EnableParallelProjection(Id, parallel), STATUS_OK);
-        Zoom(parallel ? 0.1 : 1.0); // some ten pixels
+        Do("Window_Camera_SetZoom", {parallel ? 0.1 : 1.0}); // some ten pixels
         const int before = CountLit();
         EXPECT_GT(before, 50);
         const Numbers camera = Get();
-        Zoom(1.5);
-        Zoom(2.0);
+        Do("Window_Camera_SetZoom", {1.5});
+        Do("Window_Camera_SetZoom", {2.0});
         EXPECT_NEAR(CountLit(), 9 * before, before) << "factors multiply, " << int{parallel};
         EXPECT_EQ(Get(), camera) << "the camera itself stays";
-        Zoom(1 / 3.0);
-        MoveTo(0, 0, 50);
+        Do("Window_Camera_SetZoom", {1 / 3.0});
+        Do("Window_Camera_SetPosition", {0, 0, 50});
         EXPECT_NEAR(CountLit(), (parallel ? 1 : 4) * before, before / 5.0) << int{parallel};
     }
 }

@@ -29,11 +29,28 @@ protected:
         EXPECT_EQ(Actor->GetVisibility(), Actor->GetUseBounds());
         return !Actor->GetVisibility();
     }
-    // All points as they are drawn, in host coordinates. The bounds that the camera goes by are
-    // those of these points.
-    std::vector<HostPoint> DrawnPoints() const { return OnScreen(Drawn()->GetPoints()); }
-    // Those of the first cell, along its path.
-    std::vector<HostPoint> Outline() const { return OnScreen(Drawn()->GetCell(0)->GetPoints()); }
+    // The points of the first cell, along its path, in host coordinates. The bounds that the camera
+    // goes by are those of these points.
+    std::vector<HostPoint> Outline() const
+    {
+        auto* mapper = vtkPolyDataMapper::SafeDownCast(Actor->GetMapper());
+        mapper->Update();
+        vtkPoints* points = mapper->GetInput()->GetCell(0)->GetPoints();
+        std::vector<HostPoint> drawn;
+        vtkBoundingBox box;
+        for (vtkIdType point = 0; point < points->GetNumberOfPoints(); ++point)
+        {
+            double world[4] = {0, 0, 0, 1};
+            points->GetPoint(point, world);
+            Actor->GetMatrix()->MultiplyPoint(world, world);
+            box.AddPoint(world);
+            drawn.push_back({world[0], -world[1], world[2]});
+        }
+        Numbers bounds(6);
+        box.GetBounds(bounds.data());
+        EXPECT_THAT(Numbers(Actor->GetBounds(), Actor->GetBounds() + 6), Near(bounds, 1e-5));
+        return drawn;
+    }
     static void ExpectNear(const std::vector<HostPoint>& points,
                            const std::vector<HostPoint>& expected)
     {
@@ -51,29 +68,4 @@ protected:
 
     int32_t Element = TARVEX_NONE;
     vtkActor* Actor = nullptr;
-
-private:
-    vtkPolyData* Drawn() const
-    {
-        auto* mapper = vtkPolyDataMapper::SafeDownCast(Actor->GetMapper());
-        mapper->Update();
-        return mapper->GetInput();
-    }
-    std::vector<HostPoint> OnScreen(vtkPoints* points) const
-    {
-        std::vector<HostPoint> drawn;
-        vtkBoundingBox box;
-        for (vtkIdType point = 0; point < points->GetNumberOfPoints(); ++point)
-        {
-            double world[4] = {0, 0, 0, 1};
-            points->GetPoint(point, world);
-            Actor->GetMatrix()->MultiplyPoint(world, world);
-            box.AddPoint(world);
-            drawn.push_back({world[0], -world[1], world[2]});
-        }
-        Numbers bounds(6);
-        box.GetBounds(bounds.data());
-        EXPECT_THAT(Numbers(Actor->GetBounds(), Actor->GetBounds() + 6), Near(bounds, 1e-5));
-        return drawn;
-    }
 };

@@ -10,17 +10,11 @@ namespace
 class MouseStyles : public MouseFixture<SceneKind>
 {
 protected:
-    MouseStyles() { LookDown(); }
-
-    // As LookDown, but near enough for handles of a few pixels.
-    void LookClosely() const
-    {
-        LookDown();
-        EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 0, 0, 12), STATUS_OK);
-    }
     int32_t AddActive(const std::string& add, const Numbers& values) const
     {
-        LookClosely();
+        // Near enough for handles of a few pixels.
+        LookDown();
+        EXPECT_EQ(Tarvex_Window_Camera_SetPosition(Id, 0, 0, 12), STATUS_OK);
         return MouseFixture::AddActive(add, values);
     }
     int32_t AddActiveCube(double x = 0) const
@@ -36,20 +30,23 @@ protected:
         return {static_cast<int>(std::lround(display[0])),
                 Pixels - 1 - static_cast<int>(std::lround(display[1]))};
     }
-    Vector3 HandleAt(int32_t element, int32_t handle) const
+    // Of a cube, in the middle of its upper face.
+    Vector3 HandleAt(int32_t element, int32_t handle = 1) const
     {
         const auto* shape = dynamic_cast<CElement_Draggable*>(View().FindElement(element));
         return {shape->GetHandleX()[handle], shape->GetHandleY()[handle],
                 shape->GetHandleZ()[handle]};
     }
-    void DragBy(const Pixel& from, int dx, int dy) { Drag(1, from, {from.X + dx, from.Y + dy}, 5); }
-    // By the handle in the middle of its upper face.
-    void DragCube(int32_t cube) { DragBy(PixelOf(HandleAt(cube, 1)), 20, 10); }
+    void DragCube(int32_t cube)
+    {
+        const Pixel from = PixelOf(HandleAt(cube));
+        Drag(1, from, {from.X + 20, from.Y + 10}, 5);
+    }
     double CubeX(int32_t cube) const { return Read("Element_Cube_GetValue", cube)[0]; }
 };
 } // namespace
 
-TEST_F(MouseStyles, DragAHandleOfEachKindByAsMuchAsTheMouse)
+TEST_F(MouseStyles, DragAHandleOfEachKindByAsMuchAsTheMouseWithEachPress)
 {
     const std::tuple<std::string, Numbers, int32_t> cases[] = {
         {"Element_Add_Cube", {0.5, 0, 0, 2, 1, 2, 0, 1}, 1},
@@ -64,13 +61,16 @@ TEST_F(MouseStyles, DragAHandleOfEachKindByAsMuchAsTheMouse)
         const Vector3 before = HandleAt(element, handle);
         const Pixel from = PixelOf(before);
         heard.clear();
-        DragBy(from, 24, -12);
+        MoveTo(from);
+        Click(1);
+        Press(1); // without a move between
+        MoveTo({from.X + 24, from.Y - 12});
+        Release(1);
         const Vector3 after = HandleAt(element, handle);
-        const Pixel now = PixelOf(after);
-        EXPECT_EQ(now.X, from.X + 24);
-        EXPECT_EQ(now.Y, from.Y - 12);
+        EXPECT_EQ(PixelOf(after).X, from.X + 24);
+        EXPECT_EQ(PixelOf(after).Y, from.Y - 12);
         EXPECT_EQ(after[2], before[2]);
-        EXPECT_EQ(heard, Told('d'));
+        EXPECT_EQ(heard, Told('d') + Told('d'));
         EXPECT_EQ(lastElement, element);
         EXPECT_EQ(Tarvex_Element_Remove(Id, element), STATUS_OK);
     }
@@ -85,7 +85,7 @@ TEST_F(MouseStyles, ShowWhatTheyHoverOver)
         return Host.TakeCursor();
     };
     RenderCounter renders(Id);
-    const Pixel handle = PixelOf(HandleAt(cube, 1));
+    const Pixel handle = PixelOf(HandleAt(cube));
     const auto arrow = cursorAt({3, 3});
     EXPECT_NE(cursorAt(handle), arrow);
     EXPECT_EQ(cursorAt({handle.X + 10, handle.Y}), arrow);
@@ -120,36 +120,23 @@ TEST_F(MouseStyles, ShowWhatTheyHoverOver)
 TEST_F(MouseStyles, EndADragWhereTheHandleWasSeenLast)
 {
     const int32_t cube = AddActiveCube();
-    const Pixel from = PixelOf(HandleAt(cube, 1));
+    const Pixel from = PixelOf(HandleAt(cube));
     // Out of the window: nothing is there to be met.
     Drag(1, from, {-8, from.Y}, 4);
     EXPECT_EQ(heard, Told('d'));
     const double left = CubeX(cube);
     EXPECT_LT(left, -1.0);
-    EXPECT_EQ(PixelOf(HandleAt(cube, 1)).X, from.X + 3 * (-8 - from.X) / 4);
+    EXPECT_EQ(PixelOf(HandleAt(cube)).X, from.X + 3 * (-8 - from.X) / 4);
 
     // Above the horizon the plane of the drag is never met.
     heard.clear();
     ASSERT_EQ(Tarvex_Window_Camera_SetViewDirection(Id, 0, 1, 0, 0, 0, 1), STATUS_OK);
     ASSERT_EQ(Tarvex_Window_Camera_SetPosition(Id, left, -12, 1.0), STATUS_OK);
-    const Vector3 before = HandleAt(cube, 1);
+    const Vector3 before = HandleAt(cube);
     const Pixel seen = PixelOf(before);
     Drag(1, seen, {seen.X, 60}, 1);
     EXPECT_EQ(heard, Told('d'));
-    EXPECT_EQ(HandleAt(cube, 1), before);
-}
-
-TEST_F(MouseStyles, TakeASecondPressForAnother)
-{
-    const int32_t cube = AddActiveCube();
-    const Pixel handle = PixelOf(HandleAt(cube, 1));
-    MoveTo(handle);
-    Click(1);
-    Press(1);
-    MoveTo({handle.X + 15, handle.Y});
-    Release(1);
-    EXPECT_EQ(heard, Told('d') + Told('d'));
-    EXPECT_EQ(PixelOf(HandleAt(cube, 1)).X, handle.X + 15);
+    EXPECT_EQ(HandleAt(cube), before);
 }
 
 TEST_F(MouseStyles, DropADragWhenItsTargetGoes)
@@ -166,14 +153,11 @@ TEST_F(MouseStyles, DropADragWhenItsTargetGoes)
         SCOPED_TRACE(&act - cases);
         const int32_t cube = AddActiveCube(-0.5);
         heard.clear();
-        const Pixel from = PixelOf(HandleAt(cube, 1));
+        const Pixel from = PixelOf(HandleAt(cube));
         const int actors = CountActors();
-        MoveTo(from);
-        Press(1);
+        Begin({from, {from.X + 5, from.Y}});
         EXPECT_EQ(CountActors(), actors + 1);
-        MoveTo({from.X + 5, from.Y});
-        const double moved = CubeX(cube);
-        EXPECT_GT(moved, -0.5);
+        EXPECT_GT(CubeX(cube), -0.5);
         act(cube);
         EXPECT_LE(CountActors(), actors);
         const Picture before = TakePicture(Id);
@@ -205,12 +189,7 @@ TEST_F(MouseStyles, DragHandlesOnlyBetweenDrawingGestures)
     EXPECT_EQ(heard, Told('d'));
     EXPECT_EQ(CountElements(), 1);
     const double x = CubeX(cube);
-    for (const Pixel& at : {Pixel{60, 140}, PixelOf(HandleAt(cube, 1)), Pixel{140, 150}})
-    {
-        MoveTo(at);
-        Click(1);
-    }
-    Click(3);
+    Draw({{60, 140}, PixelOf(HandleAt(cube)), {140, 150}});
     EXPECT_EQ(Read("Element_Polyhedron_GetPointCount", cube + 1), Numbers{3});
     EXPECT_EQ(heard, Told('d') + Told('a'));
     EXPECT_EQ(CubeX(cube), x);

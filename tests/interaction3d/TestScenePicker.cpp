@@ -24,35 +24,27 @@ double DepthStep(vtkRenderer* renderer, const Vector3& position)
     return Distance(ToWorld(renderer, 0, 0, depth), ToWorld(renderer, 0, 0, depth + step).data());
 }
 
-class ScenePicker : public InsideScene
-{
-protected:
-    ScenePicker()
-    {
-        std::vector<int16_t> heights(130 * 90);
-        for (size_t at = 0; at < heights.size(); ++at)
-        {
-            const auto column = static_cast<double>(at % 130);
-            const auto row = static_cast<double>(at / 130);
-            const bool missing = std::hypot(column - 40, row - 30) < 9;
-            heights[at] = static_cast<int16_t>(missing ? -32768 : 900 * std::sin(column / 9));
-        }
-        int32_t surface = -1;
-        Tarvex_Element_Add_SurfaceUniform(Id, heights.data(), nullptr, 130, 90, 0.2, 0.2, 0.002, 0,
-                                          0, 0, 0, &surface);
-        AddPoint(3, 3, 4, 2);
-        const int32_t glass = Add("Element_Add_Cube", {12, 8, 4, 6, 6, 6, 0, 1});
-        Tarvex_Element_SetTransparency(Id, glass, 0.6);
-        Tarvex_Element_SetTransparency(Id, AddPoint(20, 14, 4, 3), 1.0);
-        Tarvex_Element_Show(Id, AddPoint(22, 4, 4, 3), 0);
-        AddLine(0, 0, 6, 1, 1, 0);
-        Tarvex_Window_ScalarBar_Add(Id, surface);
-    }
-};
+using ScenePicker = InsideScene;
 } // namespace
 
 TEST_F(ScenePicker, FindsWhatVtkFindsAndLeavesThePictureAlone)
 {
+    std::vector<int16_t> heights(130 * 90);
+    for (size_t at = 0; at < heights.size(); ++at)
+    {
+        const double height = 900 * std::sin(static_cast<double>(at % 130) / 9);
+        heights[at] = at % 40 < 9 ? int16_t{TARVEX_INVALID_VALUE} : static_cast<int16_t>(height);
+    }
+    int32_t surface = -1;
+    Tarvex_Element_Add_SurfaceUniform(Id, heights.data(), nullptr, 130, 90, 0.2, 0.2, 0.002, 0, 0,
+                                      0, 0, &surface);
+    AddPoint(3, 3, 4, 2);
+    const int32_t glass = Add("Element_Add_Cube", {12, 8, 4, 6, 6, 6, 0, 1});
+    Tarvex_Element_SetTransparency(Id, glass, 0.6);
+    Tarvex_Element_SetTransparency(Id, AddPoint(20, 14, 4, 3), 1.0);
+    Tarvex_Element_Show(Id, AddPoint(22, 4, 4, 3), 0);
+    AddLine(0, 0, 6, 1, 1, 0);
+    Tarvex_Window_ScalarBar_Add(Id, surface);
     const Numbers directions[] = {
         {0.1, 0, -1, 0, 0, 1}, {1, 2, -1.5, 0, 0, 1}, {-2, 1, -1, 0, 0, 1}};
     for (const Numbers& direction : directions)
@@ -63,21 +55,15 @@ TEST_F(ScenePicker, FindsWhatVtkFindsAndLeavesThePictureAlone)
         ASSERT_EQ(Do("Window_Camera_SetViewDirection", direction), STATUS_OK);
         ASSERT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
         const Picture before = TakePicture(Id);
-        struct Found
-        {
-            int X, Y;
-            vtkProp* Prop;
-            Vector3 Position;
-        };
-        std::vector<Found> found;
+        const auto x = [](size_t at) { return static_cast<int>(at) % 30 * 7 - 4; };
+        const auto y = [](size_t at) { return static_cast<int>(at) / 30 * 7 - 3; };
+        std::vector<std::pair<vtkProp*, Vector3>> found;
         CScenePicker picker;
-        for (int at = 0; at < 900; ++at)
+        while (found.size() < 900)
         {
-            const int x = at % 30 * 7 - 4;
-            const int y = at / 30 * 7 - 3;
             picker.Forget();
-            const Vector3 position = picker.Pick(Renderer(), x, y);
-            found.push_back({x, y, picker.GetProp(), position});
+            const Vector3 position = picker.Pick(Renderer(), x(found.size()), y(found.size()));
+            found.emplace_back(picker.GetProp(), position);
         }
         for (const bool rendered : {false, true})
         {
@@ -88,13 +74,13 @@ TEST_F(ScenePicker, FindsWhatVtkFindsAndLeavesThePictureAlone)
 
         int hits = 0;
         const vtkNew<vtkPropPicker> stock;
-        for (const Found& ours : found)
+        for (size_t at = 0; at < found.size(); ++at)
         {
-            SCOPED_TRACE(testing::Message() << ours.X << ", " << ours.Y);
-            hits += stock->PickProp(ours.X, ours.Y, Renderer());
-            EXPECT_EQ(ours.Prop, stock->GetViewProp());
-            EXPECT_LE(Distance(ours.Position, stock->GetPickPosition()),
-                      DepthStep(Renderer(), ours.Position));
+            SCOPED_TRACE(testing::Message() << x(at) << ", " << y(at));
+            hits += stock->PickProp(x(at), y(at), Renderer());
+            EXPECT_EQ(found[at].first, stock->GetViewProp());
+            EXPECT_LE(Distance(found[at].second, stock->GetPickPosition()),
+                      DepthStep(Renderer(), found[at].second));
         }
         EXPECT_GT(hits, 100);
     }

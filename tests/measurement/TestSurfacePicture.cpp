@@ -1,12 +1,33 @@
 // The picture of a surface against the one that VTK's own mapper makes of the same samples.
 #include "LiteralSurface.h"
-#include "MeasuredView.h"
+#include "measurement/SurfaceGrid.h"
+#include "view3d/InsideScene.h"
 
 #include <vtkCamera.h>
 #include <vtkPropPicker.h>
 
+#include <cmath>
+
 namespace
 {
+constexpr int16_t Missing = TARVEX_INVALID_VALUE;
+
+// A height map that a host could give.
+struct Samples
+{
+    int16_t& At(int32_t column, int32_t row)
+    {
+        return Heights[static_cast<size_t>(row * Grid.Columns + column)];
+    }
+
+    SurfaceGrid Grid;
+    std::vector<int16_t> Heights;
+    std::vector<uint8_t> Intensities;
+    // For surfaces with free positions only.
+    std::vector<int16_t> X;
+    std::vector<int16_t> Y;
+};
+
 struct Case
 {
     std::string Name;
@@ -20,14 +41,39 @@ struct Case
     int32_t Columns = 200;
     int32_t Rows = 150;
     bool IsFree = false; // with positions beside the grid
-
-    Samples Make() const;
 };
 
-class SurfaceOnScreen : public MeasuredView, public testing::WithParamInterface<Case>
+// Hills of about +-4000 counts on 100 units of width, 0.001 units a count, changed by the case.
+Samples MakeSamples(const Case& tested)
+{
+    const int32_t columns = tested.Columns;
+    Samples samples;
+    samples.Grid = {columns, tested.Rows, {100.0 / columns, 100.0 / columns, 0.001}};
+    for (int32_t i = 0; i < columns * tested.Rows; ++i)
+    {
+        const double x = 7.0 * (i % columns) / columns;
+        const double y = 5.0 * (i / columns) / columns; // NOLINT(bugprone-integer-division)
+        samples.Heights.push_back(static_cast<int16_t>(3000.0 * std::sin(x) * std::cos(y) +
+                                                       1000.0 * std::sin(3.1 * x + 5.3 * y)));
+        samples.Intensities.push_back(
+            static_cast<uint8_t>(127.5 + 127.5 * std::sin(2.0 * x) * std::sin(3.0 * y)));
+    }
+    tested.Change(samples);
+    for (int32_t i = 0; tested.IsFree && i < columns * tested.Rows; ++i)
+    {
+        samples.Grid.Scale[0] = samples.Grid.Scale[1] = 0.01;
+        // Folded in X.
+        const int32_t x = i % columns * 100 + i * 7919 % 61 - 12000;
+        samples.X.push_back(static_cast<int16_t>(std::abs(x)));
+        samples.Y.push_back(static_cast<int16_t>(i / columns * 100 - int64_t{i} * 104729 % 53));
+    }
+    return samples;
+}
+
+class SurfaceOnScreen : public InsideScene, public testing::WithParamInterface<Case>
 {
 protected:
-    SurfaceOnScreen() : MeasuredView(400, 300)
+    SurfaceOnScreen() : InsideScene(400, 300)
     {
         Tarvex_Window_SetBackgroundColor(Id, 25, 50, 75);
         Renderer()->GetBackground(Input.Background);
@@ -38,21 +84,36 @@ protected:
     {
         const Case& tested = GetParam();
         const std::string type = tested.IsFree ? "SurfaceNonUniform" : "SurfaceUniform";
-        const int32_t surface = AddSurface(Data, tested.FullCellsOnly);
+        const auto& [columns, rows, scale, offset] = Data.Grid;
+        Call add =
+            MakeCall("Tarvex_Element_Add_" + type,
+                     {double(Id), double(columns), double(rows), scale[0], scale[1], scale[2],
+                      offset[0], offset[1], offset[2], tested.FullCellsOnly ? 1.0 : 0.0});
+        const auto give = [&](const auto& samples)
+        { add.Inputs.emplace_back(samples.begin(), samples.end()); };
+        if (tested.IsFree)
+        {
+            give(Data.X);
+            give(Data.Y);
+        }
+        give(Data.Heights);
+        give(Data.Intensities);
+        EXPECT_EQ(add.Perform(), STATUS_OK);
+        const auto surface = static_cast<int32_t>(add.Outputs[0][0]);
         Tarvex_Element_SetLighting(Id, surface, 0.3, 0.4, 0.3, 0);
         Tarvex_Element_SetTransparency(Id, surface, tested.Transparency);
         Input.Heights = Data.Heights.data();
-        Input.Columns = Data.Grid.Columns;
-        Input.Rows = Data.Grid.Rows;
-        std::ranges::copy(Data.Grid.Scale, Input.Scale);
-        std::ranges::copy(Data.Grid.Offset, Input.Offset);
+        Input.Columns = columns;
+        Input.Rows = rows;
+        std::ranges::copy(scale, Input.Scale);
+        std::ranges::copy(offset, Input.Offset);
         Input.ShiftAndScale = false;
         Input.FullCellsOnly = tested.FullCellsOnly;
         Input.Opacity = 1.0 - tested.Transparency;
-        const auto isLower = [](int16_t left, int16_t right)
-        { return left != Missing && (right == Missing || left < right); };
-        std::array range = {Data.Grid.Place(2, *std::ranges::min_element(Data.Heights, isLower)),
-                            Data.Grid.Place(2, *std::ranges::max_element(Data.Heights))};
+        std::vector<int16_t> valid = Data.Heights;
+        std::erase(valid, Missing);
+        std::array range = {Data.Grid.Place(2, std::ranges::min(valid)),
+                            Data.Grid.Place(2, std::ranges::max(valid))};
         if (tested.ByIntensity)
         {
             Input.Intensities = Data.Intensities.data();
@@ -69,8 +130,9 @@ protected:
         Stock = std::make_unique<LiteralSurface>(Input);
         if (tested.IsFree)
         {
-            EXPECT_EQ(GetDrawn()->GetNumberOfPoints(), Stock->PolyData->GetNumberOfPoints());
-            Stock->PolyData->SetPoints(GetDrawn()->GetPoints());
+            auto* drawn = vtkPolyData::SafeDownCast(LastActor()->GetMapper()->GetInput());
+            EXPECT_EQ(drawn->GetNumberOfPoints(), Stock->PolyData->GetNumberOfPoints());
+            Stock->PolyData->SetPoints(drawn->GetPoints());
         }
         return LastActor();
     }
@@ -100,7 +162,7 @@ protected:
         return places;
     }
 
-    Samples Data = GetParam().Make();
+    Samples Data = MakeSamples(GetParam());
     LiteralInput Input;
     std::unique_ptr<LiteralSurface> Stock;
 };
@@ -132,6 +194,22 @@ TEST_P(SurfaceOnScreen, IsShownAndPickedAsByTheStockMapper)
 
 namespace
 {
+// Holes of all sizes, single samples among them.
+void PunchHoles(Samples& samples)
+{
+    for (int32_t i = 0; i < samples.Grid.Columns * samples.Grid.Rows; ++i)
+    {
+        const int32_t column = i % samples.Grid.Columns;
+        const int32_t row = i / samples.Grid.Columns;
+        const int32_t hole = column / 19 + row / 19 * 11;
+        const int32_t reach = std::max(std::abs(column % 19 - 9), std::abs(row % 19 - 9));
+        // Every third hole is a grating, which leaves isolated samples.
+        if (reach <= hole % 10 && (hole % 3 != 0 || (row + column) % 2 == 0 || column % 3 == 0))
+        {
+            samples.At(column, row) = Missing;
+        }
+    }
+}
 void MakeCheckerboard(Samples& samples)
 {
     for (int32_t i = 0; i < samples.Grid.Columns * samples.Grid.Rows; i += 2)
@@ -151,26 +229,6 @@ void ZoomInParallel(vtkCamera* camera)
     camera->Zoom(8.0);
 }
 
-const auto PunchHoles = std::mem_fn(&Samples::PunchHoles);
-
-Samples Case::Make() const
-{
-    Samples data = MakeHills(Columns, Rows);
-    Change(data);
-    if (IsFree)
-    {
-        data.Place(100, 100);
-        data.Grid.Scale[0] = data.Grid.Scale[1] = 0.01;
-    }
-    for (size_t i = 0; i < data.X.size(); ++i)
-    {
-        // Folded in X.
-        data.X[i] = static_cast<int16_t>(std::abs(data.X[i] + (i * 7919) % 61 - 12000.0));
-        data.Y[i] = static_cast<int16_t>(data.Y[i] - (i * 104729) % 53);
-    }
-    return data;
-}
-
 const Case cases[] = {
     {.Name = "Full"},
     {.Name = "Holes", .Change = PunchHoles},
@@ -187,8 +245,7 @@ const Case cases[] = {
     {.Name = "OneMoreThanATile", .Columns = 66, .Rows = 67},
     {.Name = "Free", .Change = PunchHoles, .IsFree = true},
     {.Name = "FreeIsolated", .Change = PunchHoles, .FullCellsOnly = false, .IsFree = true},
-    {.Name = "FreeIntensity", .Change = PunchHoles, .ByIntensity = true, .IsFree = true},
-};
+    {.Name = "FreeIntensity", .Change = PunchHoles, .ByIntensity = true, .IsFree = true}};
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(, SurfaceOnScreen, testing::ValuesIn(cases),

@@ -16,36 +16,29 @@ struct Pixel // from the upper left corner of the view
 };
 
 // The two kinds of view by the calls that they have in common.
-struct SceneKind
+template <bool onChart>
+struct ViewKind
 {
-    using Fixture = InsideScene;
-    using View = CWindow;
-    static constexpr auto Create = Tarvex_Window_Create;
-    static constexpr auto Delete = Tarvex_Window_Delete;
-    static constexpr auto OnAdded = Tarvex_Window_RegisterCallback_ElementAdded;
-    static constexpr auto OnDragged = Tarvex_Window_RegisterCallback_ElementDragged;
-    static constexpr auto SetDrawMode = Tarvex_Window_SetDrawMode;
-    static constexpr auto SetActiveElement = Tarvex_Window_SetActiveElement;
-    static constexpr auto Remove = Tarvex_Element_Remove;
-    static constexpr auto RemoveAll = Tarvex_Element_RemoveAll;
-    static constexpr auto GetCount = Tarvex_Element_GetCount;
-    static constexpr auto Look = TakePicture;
+    using Fixture = std::conditional_t<onChart, InsideChart, InsideScene>;
+    using View = std::conditional_t<onChart, CWindow2D, CWindow>;
+    static constexpr auto Create = onChart ? Tarvex_Window2D_Create : Tarvex_Window_Create;
+    static constexpr auto Delete = onChart ? Tarvex_Window2D_Delete : Tarvex_Window_Delete;
+    static constexpr auto OnAdded = onChart ? Tarvex_Window2D_RegisterCallback_ElementAdded
+                                            : Tarvex_Window_RegisterCallback_ElementAdded;
+    static constexpr auto OnDragged = onChart ? Tarvex_Window2D_RegisterCallback_ElementDragged
+                                              : Tarvex_Window_RegisterCallback_ElementDragged;
+    static constexpr auto SetDrawMode =
+        onChart ? Tarvex_Window2D_SetDrawMode : Tarvex_Window_SetDrawMode;
+    static constexpr auto SetActiveElement =
+        onChart ? Tarvex_Window2D_SetActiveElement : Tarvex_Window_SetActiveElement;
+    static constexpr auto Remove = onChart ? Tarvex_Element2D_Remove : Tarvex_Element_Remove;
+    static constexpr auto RemoveAll =
+        onChart ? Tarvex_Element2D_RemoveAll : Tarvex_Element_RemoveAll;
+    static constexpr auto GetCount = onChart ? Tarvex_Element2D_GetCount : Tarvex_Element_GetCount;
+    static constexpr auto Look = onChart ? TakeChartPicture : TakePicture;
 };
-struct ChartKind
-{
-    using Fixture = InsideChart;
-    using View = CWindow2D;
-    static constexpr auto Create = Tarvex_Window2D_Create;
-    static constexpr auto Delete = Tarvex_Window2D_Delete;
-    static constexpr auto OnAdded = Tarvex_Window2D_RegisterCallback_ElementAdded;
-    static constexpr auto OnDragged = Tarvex_Window2D_RegisterCallback_ElementDragged;
-    static constexpr auto SetDrawMode = Tarvex_Window2D_SetDrawMode;
-    static constexpr auto SetActiveElement = Tarvex_Window2D_SetActiveElement;
-    static constexpr auto Remove = Tarvex_Element2D_Remove;
-    static constexpr auto RemoveAll = Tarvex_Element2D_RemoveAll;
-    static constexpr auto GetCount = Tarvex_Element2D_GetCount;
-    static constexpr auto Look = TakeChartPicture;
-};
+using SceneKind = ViewKind<false>;
+using ChartKind = ViewKind<true>;
 
 // What the host heard, and what it does then.
 inline std::string heard;
@@ -125,18 +118,17 @@ protected:
     // held at the last.
     void Begin(const std::vector<Pixel>& points)
     {
-        const bool clicks = points.size() > 2;
-        MoveTo(points[0]);
-        Press(1);
-        for (size_t at = 1; at < points.size(); ++at)
+        for (const Pixel& point : points)
         {
+            const bool clicks = points.size() > 2;
             clicks ? Release(1) : void();
-            MoveTo(points[at]);
-            clicks ? Press(1) : void();
+            MoveTo(point);
+            clicks || &point == &points[0] ? Press(1) : void();
         }
     }
-    void Finish(const std::vector<Pixel>& points)
+    void Draw(const std::vector<Pixel>& points)
     {
+        Begin(points);
         Release(1);
         if (points.size() > 2)
         {
@@ -144,11 +136,6 @@ protected:
             Host.MoveMouse(Host.Native, 100, 95);
             Click(3);
         }
-    }
-    void Draw(const std::vector<Pixel>& points)
-    {
-        Begin(points);
-        Finish(points);
     }
     // The host does each of many things when it hears of the gesture; the next is as good as ever.
     void LetTheHostAnswer(char kind, const std::function<void()>& gesture)
@@ -162,11 +149,7 @@ protected:
             [this] { Kind::RemoveAll(Id); },
             [] { TarvexExt_ProcessEvents(); },
             [] { throw std::runtime_error("the host's own"); },
-            [this]
-            {
-                EXPECT_EQ(Kind::Delete(Id), STATUS_OK);
-                EXPECT_EQ(Host.Children().size(), 0U);
-            }};
+            [this] { Kind::Delete(Id); }};
         for (const auto& action : actions)
         {
             SCOPED_TRACE(testing::Message() << "action " << &action - actions);
@@ -175,8 +158,6 @@ protected:
             EXPECT_EQ(heard, Told(kind));
             if (Host.Children().empty())
             {
-                Host.MoveMouse(Host.Native, 50, 60);
-                Settle();
                 Kind::Create(Host.Handle(), 1, 0, 0, Pixels, Pixels, &Id);
             }
             // Nothing hangs on to the mouse.

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
 Picture::Color Picture::At(int x, int y) const
 {
     const size_t at =
@@ -11,14 +15,12 @@ Picture::Color Picture::At(int x, int y) const
     return {Pixels[at], Pixels[at + 1], Pixels[at + 2]};
 }
 
-int Picture::Count(const std::function<bool(const Color&)>& matches) const
+std::vector<int> Picture::Find(const std::function<bool(const Color&)>& matches) const
 {
-    int count = 0;
-    for (int at = 0; at < Width * Height; ++at)
-    {
-        count += matches(At(at % Width, at / Width)) ? 1 : 0;
-    }
-    return count;
+    std::vector<int> found(static_cast<size_t>(Width * Height));
+    std::iota(found.begin(), found.end(), 0);
+    std::erase_if(found, [&](int at) { return !matches(At(at % Width, at / Width)); });
+    return found;
 }
 
 int Picture::CountDifferences(const Picture& other) const
@@ -27,27 +29,22 @@ int Picture::CountDifferences(const Picture& other) const
     {
         return Width * Height;
     }
-    int count = 0;
-    for (int at = 0; at < Width * Height; ++at)
-    {
-        count += At(at % Width, at / Width) != other.At(at % Width, at / Width) ? 1 : 0;
-    }
-    return count;
+    auto at = other.Pixels.begin();
+    return Count([&](const Color& color)
+                 { return !std::equal(color.begin(), color.end(), std::exchange(at, at + 3)); });
 }
 
 std::array<double, 2> Picture::Centre(const std::function<bool(const Color&)>& matches) const
 {
-    std::array<double, 2> sum = {};
-    for (int at = 0; at < Width * Height; ++at)
+    std::array<double, 2> centre = {};
+    const std::vector<int> found = Find(matches);
+    const auto count = static_cast<double>(found.size());
+    for (const int at : found)
     {
-        if (matches(At(at % Width, at / Width)))
-        {
-            sum[0] += at % Width;
-            sum[1] += at / Width; // NOLINT: the row
-        }
+        centre[0] += at % Width / count;
+        centre[1] += at / Width / count; // NOLINT: the row
     }
-    const int count = Count(matches);
-    return count > 0 ? std::array{sum[0] / count, sum[1] / count} : std::array{-1.0, -1.0};
+    return found.empty() ? std::array{-1.0, -1.0} : centre;
 }
 
 namespace

@@ -12,7 +12,12 @@ struct Picture
 
     // From the upper left corner.
     Color At(int x, int y) const;
-    int Count(const std::function<bool(const Color&)>& matches) const;
+    // Numbers of the matching pixels, counted row by row.
+    std::vector<int> Find(const std::function<bool(const Color&)>& matches) const;
+    int Count(const std::function<bool(const Color&)>& matches) const
+    {
+        return static_cast<int>(Find(matches).size());
+    }
     // Pixels that differ from those of `other`; all, for another size.
     int CountDifferences(const Picture& other) const;
     // Centre of the matching pixels; -1, -1 when there are none.

@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sys/wait.h>
 #include <unistd.h>
 
 std::vector<std::string> testArguments;
@@ -33,21 +32,20 @@ Holdings::Holdings()
 void RunInProcesses(const std::string& suite)
 {
     const testing::UnitTest& program = *testing::UnitTest::GetInstance();
+    std::string command = "exec timeout -s KILL " + std::to_string(Effort(120, 1200));
+    for (const std::string& argument : testArguments)
+    {
+        command += " '" + argument + "'";
+    }
+    command += " --gtest_also_run_disabled_tests --gtest_brief=1 --gtest_filter=" + suite + ".";
     int count = 0;
     for (int index = 0; index < program.total_test_suite_count(); ++index)
     {
         const testing::TestSuite& candidate = *program.GetTestSuite(index);
         for (int test = 0; candidate.name() == suite && test < candidate.total_test_count(); ++test)
         {
-            const std::string name = suite + "." + candidate.GetTestInfo(test)->name();
-            const std::string seconds = std::to_string(Effort(120, 1200));
-            std::string command = "exec timeout -s KILL " + seconds;
-            for (const std::string& argument : testArguments)
-            {
-                command += " '" + argument + "'";
-            }
-            command += " --gtest_also_run_disabled_tests --gtest_brief=1 --gtest_filter=" + name;
-            EXPECT_EQ(std::system(command.c_str()), 0) << name; // NOLINT: nothing else runs here
+            const std::string name = candidate.GetTestInfo(test)->name();
+            EXPECT_EQ(std::system((command + name).c_str()), 0) << name; // NOLINT: one thread runs
             ++count;
         }
     }
@@ -56,25 +54,15 @@ void RunInProcesses(const std::string& suite)
 
 TestServer::TestServer(bool withOpenGL) : DisplayBefore(std::getenv("DISPLAY"))
 {
-    int ends[2] = {-1, -1};
-    EXPECT_EQ(pipe(ends), 0);
-    const std::string answerTo = std::to_string(ends[1]);
-    Server = fork();
-    if (Server == 0)
-    {
-        // It complains of each display number that is taken, which is none of the tests' matter.
-        freopen("/dev/null", "w", stderr);
-        const char* const openGL = withOpenGL ? "+extension" : "-extension";
-        execlp("Xvfb", "Xvfb", "-displayfd", answerTo.c_str(), "-screen", "0", "800x600x24",
-               "-noreset", "-nolisten", "tcp", openGL, "GLX", nullptr);
-        _exit(1);
-    }
-    close(ends[1]);
+    // It complains of each display number that is taken, which is none of the tests' matter.
+    const std::string openGL = withOpenGL ? "+extension" : "-extension";
+    const std::string command =
+        "echo $$; exec Xvfb -displayfd 1 -screen 0 800x600x24 -noreset -nolisten tcp " + openGL +
+        " GLX 2>/dev/null";
+    Output = popen(command.c_str(), "r"); // NOLINT: nothing of a user's is in it
     // The server writes its number once it answers.
-    std::FILE* answer = fdopen(ends[0], "r");
     int number = -1;
-    EXPECT_EQ(std::fscanf(answer, "%d", &number), 1) << "the X server did not start"; // NOLINT
-    std::fclose(answer);
+    EXPECT_EQ(std::fscanf(Output, "%d %d", &Server, &number), 2) << "the X server did not start";
     setenv("DISPLAY", (":" + std::to_string(number)).c_str(), 1);
 }
 
@@ -89,7 +77,7 @@ void TestServer::Kill()
     if (Server > 0)
     {
         kill(Server, SIGKILL);
-        waitpid(Server, nullptr, 0);
+        pclose(Output);
         Server = -1;
     }
 }

@@ -2,6 +2,7 @@
 // own.
 #pragma once
 
+#include <cstdio>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -37,5 +38,6 @@ public:
 
 private:
     const std::string DisplayBefore;
+    std::FILE* Output = nullptr;
     pid_t Server = -1;
 };

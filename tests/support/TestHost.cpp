@@ -113,22 +113,13 @@ void TestHost::CloseConnection()
 
 void TestHost::MoveMouse(NativeWindow window, int x, int y)
 {
-    const int screen = DefaultScreen(Connection);
-    Window child = 0;
-    XTranslateCoordinates(Connection, window, RootWindow(Connection, screen), x, y, &x, &y, &child);
-    XTestFakeMotionEvent(Connection, screen, x, y, CurrentTime);
+    XWarpPointer(Connection, None, window, 0, 0, 0, 0, x, y);
     XSync(Connection, False);
 }
 
-void TestHost::Press(unsigned button)
+void TestHost::Press(unsigned button, bool down)
 {
-    XTestFakeButtonEvent(Connection, button, True, CurrentTime);
-    XSync(Connection, False);
-}
-
-void TestHost::Release(unsigned button)
-{
-    XTestFakeButtonEvent(Connection, button, False, CurrentTime);
+    XTestFakeButtonEvent(Connection, button, down, CurrentTime);
     XSync(Connection, False);
 }
 

@@ -37,8 +37,8 @@ public:
 
     // Mouse input as from a hand; x and y are pixels in `window`, from its upper left corner.
     void MoveMouse(NativeWindow window, int x, int y);
-    void Press(unsigned button);
-    void Release(unsigned button);
+    void Press(unsigned button, bool down = true);
+    void Release(unsigned button) { Press(button, false); }
     void Drag(NativeWindow window, unsigned button, int x0, int y0, int x1, int y1, int steps = 5);
     // A mouse event alone, by the server but not from a hand: button 0 for a motion.
     void Send(NativeWindow window, int x, int y, unsigned button, bool press);

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "Tarvex.h"
+#include "support/Functions.h"
 #include "support/Picture.h"
-
-#include <vector>
 
 // The point's colour, in light and shade.
 inline bool IsRed(const Picture::Color& color)
@@ -31,10 +30,7 @@ struct TestView
     // What has the most of its own in OpenGL.
     void AddSurface() const
     {
-        const std::vector<int16_t> heights(30 * 20, 5);
-        int32_t element = -1;
-        Tarvex_Element_Add_SurfaceUniform(Id, heights.data(), nullptr, 30, 20, 1.0, 1.0, 1.0, 10.0,
-                                          10.0, 0.0, 0, &element);
+        MakeGood(FindFunction("Tarvex_Element_Add_SurfaceUniform"), {double(Id)}, 30).Perform();
     }
 
     int32_t Delete()

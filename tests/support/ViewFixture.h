@@ -24,7 +24,10 @@ inline auto Near(const Numbers& expected, double tolerance = 1e-6)
 class HostFixture : public testing::Test
 {
 protected:
-    explicit HostFixture(int width = Pixels, int height = Pixels) : Host(width, height) {}
+    HostFixture(decltype(Tarvex_Window_Create) create, int width, int height) : Host(width, height)
+    {
+        EXPECT_EQ(create(Host.Handle(), 1, 0, 0, width, height, &Id), STATUS_OK);
+    }
 
     // What follows the id of the view: numbers, and arrays of four, in the order of the parameters;
     // 7 or nothing after the last.
@@ -36,10 +39,8 @@ protected:
         size_t at = 0;
         for (const Role role : call.Called->Roles)
         {
-            const bool isArray =
-                role == Role::Reals || role == Role::Samples || role == Role::Bytes;
-            Numbers& target = isArray ? call.Inputs.emplace_back() : call.Scalars;
-            for (int count = role == Role::Output ? 0 : isArray ? 4 : 1; count > 0; --count)
+            Numbers& target = IsInput(role) ? call.Inputs.emplace_back() : call.Scalars;
+            for (int count = role == Role::Output ? 0 : IsInput(role) ? 4 : 1; count > 0; --count)
             {
                 const bool isNumber = role != Role::Name && role != Role::Callback;
                 target.push_back(at < given.size() ? given[at++] : isNumber ? 7 : 0);
@@ -58,11 +59,10 @@ protected:
         return Do(name, given);
     }
     // Of each output the first number.
-    Numbers Read(const std::string& name, int32_t element = TARVEX_NONE,
-                 int32_t status = STATUS_OK) const
+    Numbers Read(const std::string& name, int32_t element = TARVEX_NONE) const
     {
         Numbers outputs;
-        EXPECT_EQ(Do(name, {static_cast<double>(element)}, &outputs), status) << name;
+        EXPECT_EQ(Do(name, {static_cast<double>(element)}, &outputs), STATUS_OK) << name;
         return outputs;
     }
     int32_t Add(const std::string& name, const Numbers& given) const
@@ -84,9 +84,9 @@ protected:
 class ViewFixture : public HostFixture
 {
 protected:
-    explicit ViewFixture(int width = Pixels, int height = Pixels) : HostFixture(width, height)
+    explicit ViewFixture(int width = Pixels, int height = Pixels)
+        : HostFixture(Tarvex_Window_Create, width, height)
     {
-        EXPECT_EQ(Tarvex_Window_Create(Host.Handle(), 1, 0, 0, width, height, &Id), STATUS_OK);
     }
     ~ViewFixture() override { Tarvex_Window_Delete(Id); }
 
@@ -114,9 +114,9 @@ protected:
 class ChartFixture : public HostFixture
 {
 protected:
-    explicit ChartFixture(int width = Pixels, int height = Pixels) : HostFixture(width, height)
+    explicit ChartFixture(int width = Pixels, int height = Pixels)
+        : HostFixture(Tarvex_Window2D_Create, width, height)
     {
-        EXPECT_EQ(Tarvex_Window2D_Create(Host.Handle(), 1, 0, 0, width, height, &Id), STATUS_OK);
     }
     ~ChartFixture() override { Tarvex_Window2D_Delete(Id); }
 };

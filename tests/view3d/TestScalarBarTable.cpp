@@ -16,7 +16,6 @@ protected:
             {0, 1, 2, 3, 0, 1, 2, 3, 0, 1, 2, 3, 0, 50, 100, 255, 2, 2, 1, 1, 1, 0, 0, 0, 1});
         EXPECT_EQ(Tarvex_Window_ScalarBar_Add(Id, 0), STATUS_OK);
     }
-
     vtkScalarsToColors* BarTable() const { return View().GetScalarBar()->GetLookupTable(); }
 };
 } // namespace
@@ -30,9 +29,7 @@ TEST_F(ScalarBarTable, IsTheNewOneAfterSomeCallsOnly)
         {true, "Element_GetColor", {0}},
         {false, "Element3D_SurfaceUniform_SetRepresentationMode", {0, 0}},
         {true, "Element_ZScalingPalette_SurfaceUniform", {0, 0, 0, 1, 2}},
-        {true,
-         "Element_SurfaceUniform_SetValue",
-         {0, 0, 1, 2, 3, 0, 50, 100, 255, 2, 2, 1, 1, 1, 0, 0, 0}},
+        {true, "Element_SurfaceUniform_SetValue", {0, 0, 1, 2, 3, 9, 9, 9, 9, 2, 2, 1, 1, 1, 0, 0}},
         {true, "Element_ShowIntensity_SurfaceUniform", {0, 1}},
         {true, "Element_SetPalette_SurfaceUniform", {0, 6}},
         {true, "Element_SetColor", {0, 1, 2, 3}},
