@@ -17,15 +17,12 @@ TEST_F(ShapeView, CircleIsARingAroundItsCentreAcrossItsNormal)
         EXPECT_EQ(outline.front(), outline.back());
         Vector3 normal = {v[4], v[5], v[6]};
         MakeUnit(normal);
-        const double side = v[3] * 2.0 * std::sin(vtkMath::Pi() / 100);
-        for (size_t at = 0; at < 100; ++at)
+        for (const HostPoint& point : outline)
         {
             double spoke[3];
-            vtkMath::Subtract(outline[at].data(), v.data(), spoke);
+            vtkMath::Subtract(point.data(), v.data(), spoke);
             EXPECT_NEAR(vtkMath::Norm(spoke), v[3], 1e-5);
             EXPECT_NEAR(vtkMath::Dot(spoke, normal.data()), 0.0, 1e-5);
-            vtkMath::Subtract(outline[at].data(), outline[at + 1].data(), spoke);
-            EXPECT_NEAR(vtkMath::Norm(spoke), side, 1e-5);
         }
     }
 }
