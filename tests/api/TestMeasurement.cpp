@@ -9,7 +9,6 @@ protected:
     // Pure palette colours, seen from above.
     EachSurface()
     {
-        Surface = Add("Element_Add_" + GetParam(), Values(0));
         EXPECT_EQ(Tarvex_Window_SetBackgroundColor(Id, 20, 40, 60), STATUS_OK);
         EXPECT_EQ(Tarvex_Element_SetLighting(Id, Surface, 1, 0, 0, 1), STATUS_OK);
         EXPECT_EQ(Tarvex_Window_Camera_SetPredefinedView(Id, TARVEX_VIEW_TOP), STATUS_OK);
@@ -37,7 +36,7 @@ protected:
     Picture::Color Centre() const { return TakePicture(Id).At(Pixels / 2, Pixels / 2); }
 
     const Picture::Color Background = {20, 40, 60};
-    int32_t Surface = TARVEX_NONE;
+    const int32_t Surface = Add("Element_Add_" + GetParam(), Values(0));
 };
 
 INSTANTIATE_TEST_SUITE_P(, EachSurface, testing::Values("SurfaceUniform", "SurfaceNonUniform"),

@@ -95,16 +95,12 @@ protected:
         Host.MoveMouse(Native(), to.X, to.Y);
         Settle();
     }
-    void Press(unsigned button)
+    void Press(unsigned button, bool down = true)
     {
-        Host.Press(button);
+        Host.Press(button, down);
         Settle();
     }
-    void Release(unsigned button)
-    {
-        Host.Release(button);
-        Settle();
-    }
+    void Release(unsigned button) { Press(button, false); }
     void Click(unsigned button)
     {
         Press(button);
