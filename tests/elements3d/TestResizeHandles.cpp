@@ -85,4 +85,21 @@ TEST_F(ResizeHandles, AreHiddenWithTheActiveElementAndGoWithIt)
         EXPECT_EQ(CountActors(), without);
     }
 }
+
+TEST_F(ResizeHandles, FollowTheColorAndThePointsOfTheirShape)
+{
+    AddNew("Element_Add_Polyhedron", {4, -1, 1, 1, -1, -1, -1, 1, 1, 0, 0, 0, 0, 0, 0, 1, 1});
+    LookDown();
+    Tarvex_Window_Camera_SetPosition(Id, 0, 0, 12);
+    const int without = CountActors();
+    ASSERT_EQ(Tarvex_Window_SetActiveElement(Id, Element), STATUS_OK);
+    EXPECT_EQ(CountActors(), without + 10);
+    Set("Element_Polyhedron_RemovePoint", {1});
+    EXPECT_EQ(CountActors(), without + 8);
+    const auto isWhite = [](const Picture::Color& color) { return color[1] > 0; };
+    EXPECT_GT(TakePicture(Id).Count(isWhite), 0);
+    Tarvex_Element_SetColor(Id, Element, 255, 0, 0);
+    EXPECT_EQ(TakePicture(Id).Count(isWhite), 0);
+    EXPECT_GT(CountLit(), 0);
+}
 } // namespace

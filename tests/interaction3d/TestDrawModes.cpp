@@ -121,6 +121,32 @@ TEST_F(DrawModes, LetTheHostDoAnythingWhenAnElementWasAdded)
     }
 }
 
+TEST_F(DrawModes, ConcernOneViewEach)
+{
+    // On the right, over a quarter of the first one.
+    const int32_t first = std::exchange(Id, TARVEX_NONE);
+    Tarvex_Window_Create(Host.Handle(), 1, Pixels * 3 / 4, 0, Pixels, Pixels, &Id);
+    SetSpace();
+    Enter(drawCases[4]);
+    const std::vector<Pixel> left = {{30, 99}, {45, 99}, {40, 79}};
+    Begin(left);
+    const int32_t second = std::exchange(Id, first);
+    Release(1);
+    Enter(drawCases[1]);
+    Draw(box);
+    EXPECT_EQ(CountElements(), 1);
+    Id = second;
+    EXPECT_EQ(CountElements(), 0);
+    MoveTo(left[0]);
+    Click(3);
+    EXPECT_EQ(CountElements(), 1);
+    Begin(left);
+    Tarvex_Window_Delete(Id);
+    Release(1);
+    Id = first;
+    EXPECT_EQ(CountElements(), 1);
+}
+
 TEST_F(DrawModes, DrawNothingInAnUnusableSpace)
 {
     for (const double limit : {1e300, Infinity, NaN})

@@ -145,7 +145,11 @@ protected:
             [this] { Kind::RemoveAll(Id); },
             [] { TarvexExt_ProcessEvents(); },
             [] { throw std::runtime_error("the host's own"); },
-            [this] { Kind::Delete(Id); }};
+            [this]
+            {
+                EXPECT_EQ(Kind::Delete(Id), STATUS_OK);
+                EXPECT_EQ(Host.Children().size(), 0U);
+            }};
         for (const auto& action : actions)
         {
             SCOPED_TRACE(testing::Message() << "action " << &action - actions);
@@ -154,6 +158,8 @@ protected:
             EXPECT_EQ(heard, Told(kind));
             if (Host.Children().empty())
             {
+                Host.MoveMouse(Host.Native, 50, 60);
+                Settle();
                 Kind::Create(Host.Handle(), 1, 0, 0, Pixels, Pixels, &Id);
             }
             // Nothing hangs on to the mouse.
