@@ -27,160 +27,111 @@ struct Cursor
     size_t Array = 0;
 };
 
+// Of a parameter; Classify tells more of integers.
+template <class T>
+constexpr Role RoleOf()
+{
+    using Plain = std::remove_pointer_t<T>;
+    return std::is_same_v<T, double>           ? Role::Real
+           : std::is_same_v<T, int32_t>        ? Role::Integer
+           : std::is_same_v<T, uint32_t>       ? Role::Unsigned
+           : std::is_same_v<T, uint8_t>        ? Role::Byte
+           : std::is_same_v<T, void*>          ? Role::Parent
+           : std::is_same_v<T, const char*>    ? Role::Name
+           : std::is_function_v<Plain>         ? Role::Callback
+           : !std::is_const_v<Plain>           ? Role::Output
+           : std::is_same_v<T, const double*>  ? Role::Reals
+           : std::is_same_v<T, const int16_t*> ? Role::Samples
+                                               : Role::Bytes;
+}
+
 // One argument, made from the next number or array of a call. Arrays are exactly as long as they
 // have to be, so that a sanitizer sees the first step beyond.
 template <class T>
 struct Slot
 {
-    using Plain = std::remove_const_t<std::remove_pointer_t<T>>;
-    static constexpr bool IsArray = std::is_pointer_v<T> && std::is_arithmetic_v<Plain>;
-    static constexpr bool IsName = std::is_same_v<T, const char*>;
-    static constexpr bool IsInput = IsArray && !IsName && std::is_const_v<std::remove_pointer_t<T>>;
-    static constexpr bool IsOutput = IsArray && !IsName && !IsInput;
+    static constexpr Role role = RoleOf<T>();
+    static constexpr bool isArray = IsInput(role) || role == Role::Output;
+    using Plain = std::conditional_t<isArray, std::remove_const_t<std::remove_pointer_t<T>>, char>;
 
-    Slot(Call& call, Cursor& at)
+    Slot(const Call& call, Cursor& at)
     {
-        if constexpr (IsInput)
+        if constexpr (isArray)
         {
-            const Numbers& given = call.Inputs.at(at.Input++);
-            Held.assign(std::max<size_t>(given.size(), 1), Plain{});
-            std::ranges::transform(given, Held.begin(),
-                                   [](double value) { return static_cast<Plain>(value); });
-        }
-        else if constexpr (IsOutput)
-        {
-            Held.assign(std::max<size_t>(call.OutputLength, 1), Plain{Untouched});
-        }
-        else
-        {
-            Number = call.Scalars.at(at.Scalar++);
-        }
-        if constexpr (IsInput || IsOutput)
-        {
-            IsNull = at.Array++ == call.NullArray;
-        }
-        OnChart = call.Called->OnChart;
-    }
-    T Give()
-    {
-        if constexpr (IsInput || IsOutput)
-        {
-            return IsNull ? nullptr : Held.data();
-        }
-        else if constexpr (IsName)
-        {
-            return Hosted::Names[static_cast<size_t>(Number)];
-        }
-        else if constexpr (std::is_same_v<T, void*>)
-        {
-            return Hosted::Parents[static_cast<size_t>(Number)];
+            const Numbers untouched(call.OutputLength, Untouched);
+            const Numbers& given = IsInput(role) ? call.Inputs.at(at.Input++) : untouched;
+            Held.assign(given.begin(), given.end());
+            Held.resize(std::max<size_t>(Held.size(), 1), Untouched);
+            Given = at.Array++ == call.NullArray ? nullptr : Held.data();
         }
         else if constexpr (std::is_pointer_v<T>)
         {
-            return Hosted::Callbacks[OnChart][static_cast<size_t>(Number)];
+            const std::tuple<const char* const*, void* const*, const Hosted::Callback*> tables(
+                Hosted::Names, Hosted::Parents, Hosted::Callbacks[call.Called->OnChart]);
+            Given = std::get<const T*>(tables)[static_cast<size_t>(call.Scalars.at(at.Scalar++))];
         }
         else
         {
-            return static_cast<T>(Number);
+            Given = static_cast<T>(call.Scalars.at(at.Scalar++));
         }
     }
     void Tell(Call& call) const
     {
-        if constexpr (IsOutput)
+        if constexpr (role == Role::Output)
         {
             // A palette is unsigned, and -1 all the same.
             using Told = std::conditional_t<std::is_same_v<Plain, uint32_t>, int32_t, Plain>;
-            Numbers& told = call.Outputs.emplace_back();
-            std::ranges::transform(Held, std::back_inserter(told),
-                                   [](Plain value) { return static_cast<Told>(value); });
+            const std::vector<Told> told(Held.begin(), Held.end());
+            call.Outputs.emplace_back(told.begin(), told.end());
         }
     }
 
-    std::vector<std::conditional_t<IsArray, Plain, char>> Held;
-    double Number = 0;
-    bool IsNull = false;
-    bool OnChart = false;
+    T Given = {};
+    std::vector<Plain> Held;
 };
 
-template <class T>
-Role RoleOf()
-{
-    if constexpr (std::is_pointer_v<T>)
-    {
-        return Slot<T>::IsName                     ? Role::Name
-               : Slot<T>::IsOutput                 ? Role::Output
-               : std::is_same_v<T, const double*>  ? Role::Reals
-               : std::is_same_v<T, const int16_t*> ? Role::Samples
-               : std::is_same_v<T, const uint8_t*> ? Role::Bytes
-               : std::is_same_v<T, void*>          ? Role::Parent
-                                                   : Role::Callback;
-    }
-    else
-    {
-        return std::is_same_v<T, double>     ? Role::Real
-               : std::is_same_v<T, uint8_t>  ? Role::Byte
-               : std::is_same_v<T, uint32_t> ? Role::Unsigned
-                                             : Role::Integer;
-    }
-}
-
-const std::map<std::string, int32_t> types = {
-    {"SurfaceUniform", TARVEX_ELEMENT_SURFACE_UNIFORM},
-    {"SurfaceNonUniform", TARVEX_ELEMENT_SURFACE_NON_UNIFORM},
-    {"ProfileUniform", TARVEX_ELEMENT_PROFILE_UNIFORM},
-    {"ProfileNonUniform", TARVEX_ELEMENT_PROFILE_NON_UNIFORM},
-    {"Point", TARVEX_ELEMENT_POINT},
-    {"Line", TARVEX_ELEMENT_LINE},
-    {"Circle", TARVEX_ELEMENT_CIRCLE},
-    {"Plane", TARVEX_ELEMENT_PLANE},
-    {"Ellipse", TARVEX_ELEMENT_ELLIPSE},
-    {"Cylinder", TARVEX_ELEMENT_CYLINDER},
-    {"Cube", TARVEX_ELEMENT_CUBE},
-    {"Rectangle", TARVEX_ELEMENT_RECTANGLE},
-    {"Polygon", TARVEX_ELEMENT_POLYGON},
-    {"Polyhedron", TARVEX_ELEMENT_POLYHEDRON},
-    {"Image", TARVEX_ELEMENT_IMAGE},
-    {"ImageByte", TARVEX_ELEMENT_IMAGE},
-    {"ImageShort", TARVEX_ELEMENT_IMAGE}};
+// In the order of their numbers, which have a gap before the shapes.
+const std::string types[] = {"SurfaceUniform", "SurfaceNonUniform",
+                             "ProfileUniform", "ProfileNonUniform",
+                             "Point",          "Line",
+                             "Circle",         "Plane",
+                             "Ellipse",        "Cylinder",
+                             "Cube",           "Rectangle",
+                             "Polygon",        "Polyhedron",
+                             "Image"};
 
 // The parameters' types say most; the name says which integers are ids and which are counts.
 void Classify(Function& function)
 {
-    const std::string& name = function.Name;
+    const bool isOfElements = function.Name.starts_with("Tarvex_Element");
     function.OnChart = function.NameHas("2D_");
-    function.Adds = name.starts_with("Tarvex_Element") && function.NameHas("_Add_");
-    std::istringstream parts(name);
-    for (std::string part; name.starts_with("Tarvex_Element") && std::getline(parts, part, '_');)
+    function.Adds = isOfElements && function.NameHas("_Add_");
+    for (int32_t type = 0; const std::string& name : types)
     {
-        const auto type = types.find(part);
-        function.ElementType = type == types.end() ? function.ElementType : type->second;
+        const bool isIt = isOfElements && function.NameHas("_" + name);
+        function.ElementType = isIt ? type : function.ElementType;
+        type = type == TARVEX_ELEMENT_PROFILE_NON_UNIFORM ? TARVEX_ELEMENT_POINT : type + 1;
     }
     const bool tellsPoints =
-        name.ends_with("_GetValue") && (function.NameHas("Poly") || function.NameHas("2D_Profile"));
-    const bool isText = name.ends_with("_CopyImage") || name.ends_with("LastError");
-    function.OutputArrays = isText || name.ends_with("_Image_GetValue")    ? 1
+        function.EndsWith("_GetValue") && function.NameHas("Poly", "2D_Profile");
+    const bool isText = function.EndsWith("_CopyImage", "LastError");
+    function.OutputArrays = isText || function.EndsWith("_Image_GetValue") ? 1
                             : !tellsPoints                                 ? 0
-                            : name.ends_with("Element2D_Polygon_GetValue") ? 2
+                            : function.NameHas("2D_Polygon")               ? 2
                                                                            : 3;
-    const bool isGlobal = name.ends_with("_DeleteAll") || name.ends_with("_Create") ||
-                          (function.NameHas("Window") &&
-                           (name.ends_with("_GetCount") || name.ends_with("_GetIDFromIndex"))) ||
-                          name == "TarvexExt_GetLastError";
-    const bool onElement = (name.starts_with("Tarvex_Element") && !function.Adds &&
-                            !name.ends_with("_GetCount") && !name.ends_with("_GetIDFromIndex") &&
-                            !name.ends_with("Default") && !name.ends_with("_RemoveAll")) ||
-                           name.ends_with("_SetActiveElement") || name.ends_with("ScalarBar_Add") ||
-                           name.ends_with("Cube_Add_Resize");
-    const bool counts = function.TakesArrays() || isText;
+    const bool lists = function.EndsWith("_GetCount", "_GetIDFromIndex");
+    const bool isGlobal = function.EndsWith("_DeleteAll", "_Create", "LastError") ||
+                          (lists && function.NameHas("Window"));
+    const bool onElement =
+        (isOfElements && !function.Adds && !lists && !function.EndsWith("Default", "_RemoveAll")) ||
+        function.EndsWith("_SetActiveElement", "Bar_Add", "Cube_Add_Resize");
     const size_t ids = isGlobal ? 0 : onElement ? 2 : 1;
-    size_t integers = 0;
-    for (Role& role : function.Roles)
+    const Role last = function.TakesArrays() || isText ? Role::Count : Role::Integer;
+    for (size_t integers = 0; Role & role : function.Roles)
     {
         if (role == Role::Integer)
         {
-            role = integers >= ids ? (counts ? Role::Count : Role::Integer)
-                   : integers == 0 ? Role::View
-                                   : Role::Element;
+            role = integers >= ids ? last : integers == 0 ? Role::View : Role::Element;
             ++integers;
         }
     }
@@ -202,36 +153,13 @@ void Collect(std::vector<Function>& functions, const char* name, int32_t (*funct
         return std::apply(
             [&](auto&... slot)
             {
-                const int32_t status = function(slot.Give()...);
+                const int32_t status = function(slot.Given...);
                 (slot.Tell(call), ...);
                 return status;
             },
             slots);
     };
     Classify(added);
-}
-
-const Function* FindFirst(const std::function<bool(const Function&)>& isIt)
-{
-    const auto found = std::ranges::find_if(AllFunctions(), isIt);
-    return found == AllFunctions().end() ? nullptr : &*found;
-}
-
-std::vector<Function> CollectAll()
-{
-    std::vector<Function> functions;
-#define EXPORT(function) Collect(functions, #function, function);
-#include "ExportTable.inc"
-    EXPORT(TarvexExt_ProcessEvents)
-    EXPORT(TarvexExt_Window_CopyImage)
-    EXPORT(TarvexExt_Window2D_CopyImage)
-    EXPORT(TarvexExt_Window_BeginUpdate)
-    EXPORT(TarvexExt_Window_EndUpdate)
-    EXPORT(TarvexExt_Window2D_BeginUpdate)
-    EXPORT(TarvexExt_Window2D_EndUpdate)
-    EXPORT(TarvexExt_GetLastError)
-#undef EXPORT
-    return functions;
 }
 } // namespace
 
@@ -299,22 +227,23 @@ std::string Call::Describe() const
 
 const std::vector<Function>& AllFunctions()
 {
-    static const std::vector<Function> functions = CollectAll();
-    return functions;
-}
-
-const Function& FindFunction(const std::string& name)
-{
-    static const auto index = []
+    static const std::vector<Function> all = []
     {
-        std::map<std::string, const Function*> byName;
-        for (const Function& function : AllFunctions())
-        {
-            byName[function.Name] = &function;
-        }
-        return byName;
+        std::vector<Function> functions;
+#define EXPORT(function) Collect(functions, #function, function);
+#include "ExportTable.inc"
+        EXPORT(TarvexExt_ProcessEvents)
+        EXPORT(TarvexExt_Window_CopyImage)
+        EXPORT(TarvexExt_Window2D_CopyImage)
+        EXPORT(TarvexExt_Window_BeginUpdate)
+        EXPORT(TarvexExt_Window_EndUpdate)
+        EXPORT(TarvexExt_Window2D_BeginUpdate)
+        EXPORT(TarvexExt_Window2D_EndUpdate)
+        EXPORT(TarvexExt_GetLastError)
+#undef EXPORT
+        return functions;
     }();
-    return *index.at(name);
+    return all;
 }
 
 std::vector<const Function*> FindAll(const std::function<bool(const Function&)>& isIt)
@@ -330,16 +259,24 @@ std::vector<const Function*> FindAll(const std::function<bool(const Function&)>&
     return found;
 }
 
+const Function& FindFunction(const std::string& name)
+{
+    return *FindAll([&](const Function& function) { return function.Name == name; }).at(0);
+}
+
 const Function* FindAdd(bool onChart, int32_t type)
 {
-    return FindFirst([=](const Function& function)
-                     { return function.Adds && function.IsFor(onChart, type); });
+    const auto found = FindAll([=](const Function& function)
+                               { return function.Adds && function.IsFor(onChart, type); });
+    return found.empty() ? nullptr : found[0];
 }
 
 const Function* FindChange(bool onChart, int32_t type)
 {
-    return FindFirst([=](const Function& function)
-                     { return function.NameHas("_SetValue") && function.IsFor(onChart, type); });
+    const auto found =
+        FindAll([=](const Function& function)
+                { return function.NameHas("_SetValue") && function.IsFor(onChart, type); });
+    return found.empty() ? nullptr : found[0];
 }
 
 Call MakeCall(const std::string& name, const Numbers& scalars)
@@ -355,37 +292,31 @@ Call MakeGood(const Function& function, const Numbers& ids, int side)
     Call call;
     call.Called = &function;
     call.Scalars = ids;
-    const auto counts = std::ranges::count(function.Roles, Role::Count);
     // A polyhedron has no more points.
-    constexpr double most = 250;
-    const double all = side * side;
-    const double points = function.NameHas("Polyhedron") ? std::min(all, most) : all;
+    const int points = std::min(side * side, function.NameHas("Polyhedron") ? 250 : INT32_MAX);
+    const bool isGrid = std::ranges::count(function.Roles, Role::Count) == 2;
     double number = 0;
     for (const Role role : function.Roles)
     {
-        const bool isArray = role == Role::Reals || role == Role::Samples || role == Role::Bytes;
-        if (isArray)
+        if (IsInput(role))
         {
             const auto order = static_cast<int>(call.Inputs.size());
-            Numbers& input = call.Inputs.emplace_back(static_cast<size_t>(points));
-            for (int at = 0; at < static_cast<int>(points); ++at)
+            Numbers& input = call.Inputs.emplace_back();
+            for (int at = 0; at < points; ++at)
             {
                 const bool isMissing = role == Role::Samples && at % 7 == 5;
-                input[static_cast<size_t>(at)] =
-                    isMissing ? TARVEX_INVALID_VALUE : (at + order) % 4 + 1;
+                input.push_back(isMissing ? TARVEX_INVALID_VALUE : (at + order) % 4 + 1);
             }
         }
         else if (role != Role::Output && role != Role::View && role != Role::Element)
         {
-            call.Scalars.push_back(role == Role::Count      ? (counts == 2 ? side : points)
-                                   : role == Role::Real     ? number += 0.125
-                                   : role == Role::Integer  ? 1
-                                   : role == Role::Unsigned ? 1
-                                   : role == Role::Byte     ? 1
-                                   : role == Role::Name     ? 2
-                                                            : 0);
+            call.Scalars.push_back(role == Role::Count  ? isGrid ? side : points
+                                   : role == Role::Real ? number += 0.125
+                                   : role == Role::Name ? 2
+                                   : role == Role::Parent || role == Role::Callback ? 0
+                                                                                    : 1);
         }
     }
-    call.OutputLength = std::max<size_t>(64, static_cast<size_t>(all));
+    call.OutputLength = static_cast<size_t>(std::max(64, side * side));
     return call;
 }

@@ -48,7 +48,17 @@ struct Function
     {
         return OnChart == onChart && ElementType == type;
     }
-    bool NameHas(const char* part) const { return Name.find(part) != std::string::npos; }
+    // One of the parts.
+    template <class... Parts>
+    bool NameHas(const Parts&... parts) const
+    {
+        return ((Name.find(parts) != std::string::npos) || ...);
+    }
+    template <class... Parts>
+    bool EndsWith(const Parts&... parts) const
+    {
+        return (Name.ends_with(parts) || ...);
+    }
 
     std::string Name;
     bool OnChart = false;       // of charts, not of 3D views
