@@ -53,13 +53,10 @@ int32_t GetColor(Situation& now)
 int32_t SetSize(Situation& now)
 {
     const int32_t status = SizeStatus(now);
-    const bool stores = status == STATUS_OK || status == STATUS_WRONG_TYPE;
-    if (status == STATUS_OK && now.Given[0] < 0.001)
-    {
-        return STATUS_TOO_SMALL;
-    }
+    const bool isTooSmall = status == STATUS_OK && now.Given[0] < 0.001;
+    const bool stores = status == STATUS_WRONG_TYPE || (status == STATUS_OK && !isTooSmall);
     now.Element->Size = stores ? now.Given[0] : now.Element->Size;
-    return status;
+    return isTooSmall ? int32_t{STATUS_TOO_SMALL} : status;
 }
 
 int32_t GetSize(Situation& now)
@@ -76,49 +73,41 @@ bool IsBadLighting(const Numbers& values, size_t from)
 
 int32_t Show(Situation& now)
 {
-    const ModelElement& element = *now.Element;
-    const bool isCircle = element.Type == TARVEX_ELEMENT_CIRCLE && now.View->OnChart;
-    return isCircle && !element.Valid ? STATUS_INVALID_VALUES
-           : element.Empty            ? STATUS_NOT_READY
-                                      : STATUS_OK;
-}
-
-// In the order in which the defaults are handed out, from the transparency on.
-bool AreDefaultsGood(const Numbers& look, int32_t type)
-{
-    const bool isSurface = type <= TARVEX_ELEMENT_SURFACE_NON_UNIFORM;
-    if (IsOutside(look[0], 0, 1) || IsBadLighting(look, 5))
-    {
-        return false;
-    }
-    return isSurface ? !IsOutside(look[9], 0, 6) && !IsOutside(look[11], 0, 45) &&
-                           !(look[13] - look[12] < 0.001)
-                     : !(look[4] < 0.001) &&
-                           !(type == TARVEX_ELEMENT_LINE && std::abs(look[15] - look[14]) < 1e-9) &&
-                           !(type == TARVEX_ELEMENT_PLANE && IsFlat(look, 16, 0.001));
+    const bool isCircle = now.Element->Type == TARVEX_ELEMENT_CIRCLE && now.View->OnChart;
+    return isCircle && !now.Element->Valid ? STATUS_INVALID_VALUES
+           : now.Element->Empty            ? STATUS_NOT_READY
+                                           : STATUS_OK;
 }
 
 int32_t SetDefault(Situation& now)
 {
     const auto type = static_cast<int32_t>(now.Given[0]);
-    const Numbers given(now.Given.begin() + 1, now.Given.end());
-    if (!now.All.Defaults.contains(type) || !AreDefaultsGood(given, type))
+    const bool isSurface = type <= TARVEX_ELEMENT_SURFACE_NON_UNIFORM;
+    const bool isLine = type == TARVEX_ELEMENT_LINE;
+    const bool isPlane = type == TARVEX_ELEMENT_PLANE;
+    // In the order in which they are handed out, from the transparency on.
+    const Numbers look(now.Given.begin() + 1, now.Given.end());
+    const bool isBad = IsOutside(look[0], 0, 1) || IsBadLighting(look, 5) ||
+                       (isSurface ? IsOutside(look[9], 0, 6) || IsOutside(look[11], 0, 45) ||
+                                        look[13] - look[12] < 0.001
+                                  : look[4] < 0.001 || (isPlane && IsFlat(look, 16, 0.001)) ||
+                                        (isLine && std::abs(look[15] - look[14]) < 1e-9));
+    if (isBad || !now.All.Defaults.contains(type))
     {
         return now.All.Defaults.contains(type) ? STATUS_OUT_OF_RANGE : STATUS_BAD_ELEMENT_TYPE;
     }
-    const bool isSurface = type <= TARVEX_ELEMENT_SURFACE_NON_UNIFORM;
-    for (auto& [other, look] : now.All.Defaults)
+    for (auto& [other, held] : now.All.Defaults)
     {
         // The two surfaces share one, as do the two profiles.
         const bool shares = other == type || (type < 4 && other / 2 == type / 2);
-        for (size_t at = 0; shares && at < given.size(); ++at)
+        for (size_t at = 0; shares && at < look.size(); ++at)
         {
             const bool isUsed = at == 4   ? !isSurface
                                 : at < 9  ? true
                                 : at < 14 ? isSurface
-                                : at < 16 ? type == TARVEX_ELEMENT_LINE
-                                          : type == TARVEX_ELEMENT_PLANE;
-            look[at] = !isUsed ? look[at] : at == 10 ? given[at] != 0 : given[at];
+                                : at < 16 ? isLine
+                                          : isPlane;
+            held[at] = !isUsed ? held[at] : at == 10 ? look[at] != 0 : look[at];
         }
     }
     return STATUS_OK;
@@ -127,41 +116,28 @@ int32_t SetDefault(Situation& now)
 
 void TellCommonRules(Rules& rules)
 {
-    for (const std::string kind : {"", "2D"})
-    {
-        const std::string element = "Tarvex_Element" + kind + "_";
-        rules[element + "GetCount"] =
-            Gives([](const Situation& now) { return Numbers{double(now.View->Elements.size())}; });
-        rules[element + "GetIDFromIndex"] = [](Situation& now)
-        { return GetIdAt(now.View->Elements, now); };
-        rules[element + "GetType"] =
-            Gives([](const Situation& now) { return Numbers{double(now.Element->Type)}; });
-        rules[element + "HasValidValues"] =
-            Gives([](const Situation& now) { return Numbers{double(now.Element->Valid)}; });
-        rules[element + "Show"] = Show;
-        rules[element + "Remove"] = Remove;
-        rules[element + "RemoveAll"] = RemoveAll;
-        rules[element + "SetColor"] = SetColor;
-        rules[element + "GetColor"] = GetColor;
-        rules[element + "SetSize"] = SetSize;
-        rules[element + "GetSize"] = GetSize;
-    }
-    rules["Tarvex_Element_GetTransparency"] =
-        Gives([](const Situation& now) { return Numbers{now.Element->Transparency}; });
-    rules["Tarvex_Element_SetTransparency"] = Unless(
-        STATUS_OUT_OF_RANGE, [](const Situation& now) { return IsOutside(now.Given[0], 0, 1); },
-        [](Situation& now) { now.Element->Transparency = now.Given[0]; });
-    rules["Tarvex_Element_GetLighting"] =
-        Gives([](const Situation& now) { return now.Element->Lighting; });
-    rules["Tarvex_Element_SetLighting"] = Unless(
-        STATUS_OUT_OF_RANGE, [](const Situation& now) { return IsBadLighting(now.Given, 0); },
-        [](Situation& now) { now.Element->Lighting = now.Given; });
-    rules["Tarvex_Element_SetDefault"] = SetDefault;
-    rules["Tarvex_Element_GetDefault"] = [](Situation& now)
-    {
-        const auto record = now.All.Defaults.find(static_cast<int32_t>(now.Given[0]));
-        const bool known = record != now.All.Defaults.end();
-        now.Expected = known ? record->second : Numbers();
-        return known ? STATUS_OK : STATUS_BAD_ELEMENT_TYPE;
-    };
+    rules["Element_GetCount"] = Gives([](auto& now) { return now.View->Elements.size(); });
+    rules["Element_GetIDFromIndex"] = [](auto& now) { return GetIdAt(now.View->Elements, now); };
+    rules["Element_GetType"] = Gives([](auto& now) { return now.Element->Type; });
+    rules["Element_HasValidValues"] = Gives([](auto& now) { return now.Element->Valid; });
+    rules["Element_Show"] = Show;
+    rules["Element_Remove"] = Remove;
+    rules["Element_RemoveAll"] = RemoveAll;
+    rules["Element_SetColor"] = SetColor;
+    rules["Element_GetColor"] = GetColor;
+    rules["Element_SetSize"] = SetSize;
+    rules["Element_GetSize"] = GetSize;
+    rules["Element_GetTransparency"] = Gives([](auto& now) { return now.Element->Transparency; });
+    rules["Element_SetTransparency"] = Unless(
+        STATUS_OUT_OF_RANGE, [](auto& now) { return IsOutside(now.Given[0], 0, 1); },
+        [](auto& now) { now.Element->Transparency = now.Given[0]; });
+    rules["Element_GetLighting"] = Gives([](auto& now) { return now.Element->Lighting; });
+    rules["Element_SetLighting"] = Unless(
+        STATUS_OUT_OF_RANGE, [](auto& now) { return IsBadLighting(now.Given, 0); },
+        [](auto& now) { now.Element->Lighting = now.Given; });
+    rules["Element_SetDefault"] = SetDefault;
+    rules["Element_GetDefault"] = Unless(
+        STATUS_BAD_ELEMENT_TYPE,
+        [](auto& now) { return !now.All.Defaults.contains(static_cast<int>(now.Given[0])); },
+        [](auto& now) { now.Expected = now.All.Defaults.at(static_cast<int>(now.Given[0])); });
 }

@@ -118,39 +118,6 @@ int32_t SetScaling(Situation& now)
     return STATUS_OK;
 }
 
-void TellSurfaces(Rules& rules)
-{
-    for (const std::string type : {"SurfaceUniform", "SurfaceNonUniform"})
-    {
-        rules["Tarvex_Element_Add_" + type] = AddSurface;
-        rules["Tarvex_Element_" + type + "_SetValue"] = SetSurface;
-        rules["Tarvex_Element_" + type + "_AddIntensity"] = AddIntensity;
-        rules["Tarvex_Element_ShowIntensity_" + type] = Unless(
-            STATUS_NOT_READY,
-            [](const Situation& now) { return now.Given[0] != 0 && !now.Element->HasIntensity; },
-            [](Situation& now) { now.Element->ShowsIntensity = now.Given[0] != 0; });
-        rules["Tarvex_Element3D_" + type + "_GetRepresentationMode"] =
-            Gives([](const Situation& now) { return Numbers{now.Element->Mode}; });
-        rules["Tarvex_Element3D_" + type + "_SetRepresentationMode"] = Does(
-            [](Situation& now)
-            {
-                now.Element->Mode = now.Given[0] != 0;
-                now.Element->Lighting = now.Element->FirstLighting;
-            });
-        rules["Tarvex_Element_GetPalette_" + type] =
-            Gives([](const Situation& now) { return Numbers{now.Element->Palette()}; });
-        rules["Tarvex_Element_SetPalette_" + type] = SetPalette;
-        rules["Tarvex_Element_GetZScalingPalette_" + type] =
-            Gives([](const Situation& now) { return now.Element->Scaling; });
-        rules["Tarvex_Element_ZScalingPalette_" + type] = SetScaling;
-        rules["Tarvex_Element_Add_Profile" + type.substr(7)] = [](Situation& now)
-        {
-            const int32_t status = JudgeSamples(now, 1, 2);
-            return status == STATUS_OK ? AddElement(now, {}) : status;
-        };
-    }
-}
-
 // The samples of a chart profile, in chart coordinates: x, y, valid.
 std::vector<Numbers> ReadSamples(const Situation& now)
 {
@@ -222,35 +189,6 @@ Rule SetSamples(double least, bool attaches = false)
     };
 }
 
-void TellChartProfiles(Rules& rules)
-{
-    const std::string prefix = "Tarvex_Element2D_";
-    const std::string free = prefix + "ProfileNonUniform_";
-    rules[prefix + "Add_ProfileNonUniform_GeneralData"] = SetSamples(1);
-    rules[prefix + "Add_ProfileNonUniform_KorData"] = SetSamples(2);
-    rules[prefix + "Add_ProfileUniform"] = SetSamples(2);
-    rules[prefix + "ProfileUniform_SetValue"] = SetSamples(2);
-    rules[free + "SetValue_GeneralData"] = SetSamples(2);
-    rules[free + "SetValue_KorData"] = SetSamples(2);
-    rules[free + "AttachValues_GeneralData"] = SetSamples(1, true);
-    rules[free + "AttachValues_KorData"] = SetSamples(1, true);
-    rules[free + "SetMarkerSize"] =
-        Unless(STATUS_TOO_SMALL, [](const Situation& now) { return now.Given[0] < 0.001; });
-    for (const std::string type : {"ProfileUniform_", "ProfileNonUniform_"})
-    {
-        rules[prefix + type + "GetPointCount"] = Unless(
-            STATUS_NOT_READY, [](const Situation& now) { return now.Element->Empty; },
-            [](Situation& now) { now.Expected = {double(now.Element->CountPoints())}; });
-        rules[prefix + type + "GetValue"] = [](Situation& now)
-        {
-            now.Arrays = now.Element->Points;
-            return now.Element->Empty               ? STATUS_NOT_READY
-                   : now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT
-                                                    : STATUS_OK;
-        };
-    }
-}
-
 // Bytes as they are; 16-bit values that are reduced are not known.
 int32_t SetImage(Situation& now)
 {
@@ -294,25 +232,60 @@ int32_t SetImage(Situation& now)
 
 void TellMeasurementRules(Rules& rules)
 {
-    TellSurfaces(rules);
-    TellChartProfiles(rules);
-    const std::string prefix = "Tarvex_Element2D_";
-    for (const char* form : {"Byte", "Short"})
-    {
-        rules[prefix + "Add_Image" + form] = SetImage;
-        rules[prefix + "Image_SetValue" + form] = SetImage;
-    }
-    rules[prefix + "Image_GetImageSize"] = Gives(
-        [](const Situation& now) {
-            return Numbers{double(now.Element->Columns), double(now.Element->Rows)};
+    const std::string surface = "_SurfaceUniform";
+    rules["Element_Add" + surface] = AddSurface;
+    rules["Element" + surface + "_SetValue"] = SetSurface;
+    rules["Element" + surface + "_AddIntensity"] = AddIntensity;
+    rules["Element_ShowIntensity" + surface] = Unless(
+        STATUS_NOT_READY, [](auto& now) { return now.Given[0] != 0 && !now.Element->HasIntensity; },
+        [](auto& now) { now.Element->ShowsIntensity = now.Given[0] != 0; });
+    rules["Element" + surface + "_GetRepresentationMode"] =
+        Gives([](auto& now) { return now.Element->Mode; });
+    rules["Element" + surface + "_SetRepresentationMode"] = Does(
+        [](auto& now)
+        {
+            now.Element->Mode = now.Given[0] != 0;
+            now.Element->Lighting = now.Element->FirstLighting;
         });
-    rules[prefix + "Image_GetValue"] = [](Situation& now)
+    rules["Element_GetPalette" + surface] = rules["Element_GetPalette_Image"] =
+        Gives([](auto& now) { return now.Element->Palette(); });
+    rules["Element_SetPalette" + surface] = rules["Element_SetPalette_Image"] = SetPalette;
+    rules["Element_GetZScalingPalette" + surface] =
+        Gives([](auto& now) { return now.Element->Scaling; });
+    rules["Element_ZScalingPalette" + surface] = SetScaling;
+    rules["Element_Add_ProfileUniform"] = [](auto& now)
+    {
+        const int32_t status = JudgeSamples(now, 1, 2);
+        return status == STATUS_OK ? AddElement(now, {}) : status;
+    };
+    const std::string chart = "Element2D_";
+    for (const std::string data : {"_GeneralData", "_KorData"})
+    {
+        rules[chart + "Add_ProfileNonUniform" + data] = SetSamples(data[1] == 'G' ? 1 : 2);
+        rules[chart + "ProfileNonUniform_SetValue" + data] = SetSamples(2);
+        rules[chart + "ProfileNonUniform_AttachValues" + data] = SetSamples(1, true);
+    }
+    rules[chart + "Add_ProfileUniform"] = rules[chart + "ProfileUniform_SetValue"] = SetSamples(2);
+    rules[chart + "ProfileNonUniform_SetMarkerSize"] =
+        Unless(STATUS_TOO_SMALL, [](auto& now) { return now.Given[0] < 0.001; });
+    rules["Element_ProfileUniform_GetPointCount"] = Unless(
+        STATUS_NOT_READY, [](auto& now) { return now.Element->Empty; },
+        [](auto& now) { now.Expected = Answer(now.Element->CountPoints()); });
+    rules["Element_ProfileUniform_GetValue"] = rules["Element_Image_GetValue"] = [](auto& now)
     {
         now.Arrays = now.Element->Points;
         now.Expected = now.Element->Values;
-        return now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT : STATUS_OK;
+        return now.Element->Empty               ? STATUS_NOT_READY
+               : now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT
+                                                : STATUS_OK;
     };
-    rules[prefix + "GetPalette_Image"] =
-        Gives([](const Situation& now) { return Numbers{now.Element->Palette()}; });
-    rules[prefix + "SetPalette_Image"] = SetPalette;
+    for (const char* form : {"Byte", "Short"})
+    {
+        rules[std::string("Element_Add_Image") + form] = SetImage;
+        rules[std::string("Element_Image_SetValue") + form] = SetImage;
+    }
+    rules["Element_Image_GetImageSize"] = Gives(
+        [](auto& now) {
+            return Numbers{double(now.Element->Columns), double(now.Element->Rows)};
+        });
 }

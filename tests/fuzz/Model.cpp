@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
+#include <ranges>
 
 namespace
 {
-const Rules& AllRules()
+// Empty for none.
+Rule FindRule(std::string name)
 {
     static const Rules all = []
     {
@@ -17,31 +19,35 @@ const Rules& AllRules()
         TellMeasurementRules(rules);
         return rules;
     }();
-    return all;
+    for (const std::string leaveOut : {"Tarvex_", "TarvexExt_", "2D", "3D", "Non"})
+    {
+        const size_t at = name.find(leaveOut);
+        name.erase(at == std::string::npos ? name.size() : at, leaveOut.size());
+        if (const auto rule = all.find(name); rule != all.end())
+        {
+            return rule->second;
+        }
+    }
+    return {};
 }
 
 // These need no native window.
 bool IsUnguarded(const Function& function)
 {
-    const std::string& name = function.Name;
-    return name.ends_with("_Delete") || name.ends_with("_GetCount") ||
-           name.ends_with("_GetIDFromIndex") || name.ends_with("_GetType") ||
-           name.ends_with("Default") || function.NameHas("RegisterCallback");
+    return function.EndsWith("_Delete", "_GetCount", "_GetIDFromIndex", "_GetType", "Default") ||
+           function.NameHas("RegisterCallback");
 }
 // These ask first for the scale frame or the scalar bar, which no view without a window has.
 bool NeedsFurniture(const Function& function)
 {
-    const std::string& name = function.Name;
-    return (function.NameHas("_Cube_") && function.NameHas("Window") &&
-            !name.ends_with("_Resize") && !name.ends_with("_Remove")) ||
-           name.ends_with("ScalarBar_ShowHide") || name.ends_with("ScalarBar_IsShown");
+    return (function.NameHas("Window_Cube_") && !function.EndsWith("_Resize", "_Remove")) ||
+           function.EndsWith("ScalarBar_ShowHide", "ScalarBar_IsShown");
 }
 } // namespace
 
 ModelElement* ModelView::Find(double id)
 {
-    const auto found =
-        std::ranges::find_if(Elements, [&](const ModelElement& each) { return each.Id == id; });
+    const auto found = std::ranges::find(Elements, id, &ModelElement::Id);
     return found == Elements.end() ? nullptr : &*found;
 }
 
@@ -54,8 +60,7 @@ void ModelView::Forget(int32_t id)
 
 ModelView* Model::Find(bool onChart, double id)
 {
-    const auto found =
-        std::ranges::find_if(Views[onChart], [&](const ModelView& each) { return each.Id == id; });
+    const auto found = std::ranges::find(Views[onChart], id, &ModelView::Id);
     return found == Views[onChart].end() ? nullptr : &*found;
 }
 
@@ -91,20 +96,17 @@ int32_t Model::Follow(const Call& call, Expectation& expected)
     const bool onElement = function.Has(Role::Element);
     if (onElement && function.Name.starts_with("Tarvex_Element"))
     {
-        if (!element)
+        const bool isForAny = function.ElementType < 0;
+        if (!element || (!isForAny && function.ElementType != element->Type))
         {
-            return STATUS_BAD_INDEX;
-        }
-        if (function.ElementType >= 0 && function.ElementType != element->Type)
-        {
-            return STATUS_WRONG_TYPE;
+            return element ? STATUS_WRONG_TYPE : STATUS_BAD_INDEX;
         }
     }
     const auto given = call.Scalars.begin() + (onView ? 1 : 0) + (onElement ? 1 : 0);
     Situation now = {*this,           call,           view, element, {given, call.Scalars.end()},
                      expected.Arrays, expected.Values};
-    const auto rule = AllRules().find(function.Name);
-    return rule == AllRules().end() ? int32_t{STATUS_OK} : rule->second(now);
+    const Rule rule = FindRule(function.Name);
+    return rule ? rule(now) : int32_t{STATUS_OK};
 }
 
 void Model::ReadDefaults()
@@ -129,16 +131,9 @@ bool IsUsable(double value)
            !(value > -9223372036855.0 && value < -9223372036854.0);
 }
 
-bool AreUsable(const Numbers& values, size_t from, size_t count)
+bool AreUsable(const Numbers& values, ptrdiff_t from, ptrdiff_t count)
 {
-    for (size_t at = from; at < values.size() && at - from < count; ++at)
-    {
-        if (!IsUsable(values[at]))
-        {
-            return false;
-        }
-    }
-    return true;
+    return std::ranges::all_of(values | std::views::drop(from) | std::views::take(count), IsUsable);
 }
 
 bool IsOutside(double value, double lowest, double highest)
@@ -152,7 +147,7 @@ bool IsFlat(const Numbers& values, size_t from, double least)
            values[from + 5] - values[from + 4] < least;
 }
 
-Rule Gives(std::function<Numbers(const Situation& now)> values)
+Rule Gives(std::function<Answer(Situation& now)> values)
 {
     return [values](Situation& now) -> int32_t
     {
@@ -183,15 +178,11 @@ Rule Does(std::function<void(Situation& now)> deed)
 
 double FoldAngle(double degrees, bool halfTurns)
 {
-    if (!std::isfinite(degrees))
-    {
-        return degrees;
-    }
     const double rest = std::fmod(degrees, 360.0);
-    return halfTurns ? rest > 180    ? rest - 360
-                       : rest < -180 ? rest + 360
-                                     : rest
-                     : rest + (degrees < 0 ? 360 : 0);
+    return !std::isfinite(degrees) ? degrees
+           : !halfTurns            ? rest + (degrees < 0 ? 360 : 0)
+           : std::abs(rest) > 180  ? rest - std::copysign(360, rest)
+                                   : rest;
 }
 
 bool IsTooMuch(double count, size_t bytes)
@@ -219,11 +210,8 @@ int32_t AddElement(Situation& now, ModelElement element)
         element.Size = look[4];
         element.Lighting = {look[5], look[6], look[7], look[8]};
         element.FirstLighting = element.Lighting;
-        if (element.Type <= TARVEX_ELEMENT_SURFACE_NON_UNIFORM)
-        {
-            element.Palettes[0] = look[9];
-            element.Scaling = {look[10], look[11], -10, 10};
-        }
+        element.Palettes[0] = look[9]; // of surfaces
+        element.Scaling = {look[10], look[11], -10, 10};
         if (element.Type == TARVEX_ELEMENT_LINE)
         {
             element.Values = {look[14], look[15]};

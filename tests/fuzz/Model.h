@@ -100,9 +100,10 @@ struct Situation
 };
 
 using Rule = std::function<int32_t(Situation& now)>;
+// By the functions' names without Tarvex_. One of both kinds of view, or of surface or profile, is
+// found without 2D, 3D and Non as well.
 using Rules = std::map<std::string, Rule>;
 
-// Each file knows the rules of some functions, by name.
 void TellViewRules(Rules& rules);
 void TellCommonRules(Rules& rules);
 void TellShapeRules(Rules& rules);
@@ -110,7 +111,7 @@ void TellMeasurementRules(Rules& rules);
 
 // Shared by them.
 bool IsUsable(double value);
-bool AreUsable(const Numbers& values, size_t from = 0, size_t count = SIZE_MAX);
+bool AreUsable(const Numbers& values, ptrdiff_t from = 0, ptrdiff_t count = INT32_MAX);
 // Below the lower or above the upper limit; a NaN is neither.
 bool IsOutside(double value, double lowest, double highest);
 // Whether one of three extents of a box is too small.
@@ -122,8 +123,16 @@ bool IsTooMuch(double count, size_t bytes);
 bool LacksArray(const Call& call);
 int32_t AddElement(Situation& now, ModelElement element);
 
+// One number, or more.
+struct Answer : Numbers
+{
+    Answer(double number) : Numbers{number} {}
+    Answer(Numbers numbers) : Numbers(std::move(numbers)) {}
+    Answer(std::initializer_list<double> numbers) : Numbers(numbers) {}
+};
+
 // Rules that are a line: what is handed out, what is done, and what is refused with a status.
-Rule Gives(std::function<Numbers(const Situation& now)> values);
+Rule Gives(std::function<Answer(Situation& now)> values);
 Rule Does(std::function<void(Situation& now)> deed);
 Rule Unless(int32_t status, std::function<bool(const Situation& now)> isRefused,
             std::function<void(Situation& now)> deed = {});

@@ -3,33 +3,32 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace
 {
 // Stores what was given; false: the element becomes invalid.
 using Store = std::function<bool(ModelElement& element, const Numbers& given, bool adding)>;
 
-double SquareSum(const Numbers& values, size_t from, size_t count = 3)
+double SquareSum(const Numbers& values, ptrdiff_t from, ptrdiff_t count = 3)
 {
-    double sum = 0;
-    for (size_t at = from; at < from + count; ++at)
-    {
-        sum += values[at] * values[at];
-    }
-    return sum;
+    const auto first = values.begin() + from;
+    return std::inner_product(first, first + count, first, 0.0);
 }
 
 // What the library works out from the numbers given: unknown where rounding or overflow decides.
 Numbers IfNear(const Numbers& values, bool known = true)
 {
-    return known && SquareSum(values, 0, values.size()) < 1e12 ? values
-                                                               : Numbers(values.size(), anyNumber);
+    return known && SquareSum(values, 0, std::ssize(values)) < 1e12
+               ? values
+               : Numbers(values.size(), anyNumber);
 }
 
 // The numbers from `from` on as a unit vector; unknown where rounding or overflow decides.
 void MakeUnit(Numbers& values, size_t from, size_t count = 3)
 {
-    const double length = std::sqrt(SquareSum(values, from, count));
+    const double length =
+        std::sqrt(SquareSum(values, static_cast<ptrdiff_t>(from), static_cast<ptrdiff_t>(count)));
     for (size_t at = from; at < from + count; ++at)
     {
         values[at] = length > 0 && length < 1e100 ? values[at] / length : anyNumber;
@@ -55,10 +54,10 @@ bool StoreLine(ModelElement& element, const Numbers& given, bool adding)
 // A shape that hands out what it was given.
 struct Form
 {
-    size_t Count;                // of its numbers
+    ptrdiff_t Count;             // of its numbers
     std::vector<size_t> Lengths; // each at least 1e-9
     std::vector<size_t> Sides;   // not all below 1e-6 in magnitude; in a chart none
-    size_t Normal = 0;           // where a vector begins that gets unit length
+    ptrdiff_t Normal = 0;        // where a vector begins that gets unit length
     size_t Angle = 0;            // brought into its range when a valid element is added
     bool HalfTurns = false;
 };
@@ -68,20 +67,19 @@ Store Keep(const Form& form)
     return [form](ModelElement& element, const Numbers& given, bool adding)
     {
         Numbers& values = element.Values;
-        values = {given.begin(), given.begin() + static_cast<ptrdiff_t>(form.Count)};
+        values = {given.begin(), given.begin() + form.Count};
         const bool isRectangle2D = form.Count == 5 && form.HalfTurns;
         const bool isEllipse2D = form.Count == 5 && !form.HalfTurns; // where changes fold as well
         const auto flat = std::ranges::count_if(form.Sides, [&](size_t at)
                                                 { return std::abs(values[at]) < 1e-6; });
-        const bool isFlat =
-            flat > 0 && (isRectangle2D || flat == static_cast<ptrdiff_t>(form.Sides.size()));
+        const bool isFlat = flat > 0 && (isRectangle2D || flat == std::ssize(form.Sides));
         const bool valid =
             AreUsable(values) && !isFlat &&
             !(form.Normal && SquareSum(values, form.Normal) < 1e-12) &&
             std::ranges::none_of(form.Lengths, [&](size_t at) { return values[at] < 1e-9; });
         if (valid && form.Normal)
         {
-            MakeUnit(values, form.Normal);
+            MakeUnit(values, static_cast<size_t>(form.Normal));
         }
         if (valid && form.Angle && (adding || isEllipse2D))
         {
@@ -91,30 +89,37 @@ Store Keep(const Form& form)
     };
 }
 
-const Form rectangle = {6, {}, {3, 4}, 0, 5, true};
-
 bool StorePoint(ModelElement& element, const Numbers& given, bool adding)
 {
     element.Size = !adding && given[3] >= 0.001 ? given[3] : element.Size;
     return Keep({3, {}, {}})(element, given, adding) && AreUsable(given);
 }
 
-// Distance and normal, in Values.
+// Kept as point, normal and distance. An invalid plane keeps what the call did not give.
 bool StorePlane(ModelElement& element, const Numbers& given, bool)
 {
     const bool byPoint = given.size() == 6;
     const bool valid = AreUsable(given) && !(SquareSum(given, byPoint ? 3 : 1) < 1e-12);
-    element.Values = {given[0], given.end()[-3], given.end()[-2], given.end()[-1]};
+    Numbers& plane = element.Values;
+    plane.resize(7);
+    std::copy(given.end() - 3, given.end(), plane.begin() + 3);
     if (valid)
     {
-        MakeUnit(element.Values, 1);
+        MakeUnit(plane, 3);
     }
+    const Numbers normal(plane.begin() + 3, plane.begin() + 6);
+    const bool near = SquareSum(given, 0, std::ssize(given)) < 1e12;
     if (byPoint)
     {
-        const bool near = valid && SquareSum(given, 0, 6) < 1e12;
-        element.Values[0] = near ? -(given[0] * element.Values[1] + given[1] * element.Values[2] +
-                                     given[2] * element.Values[3])
-                                 : anyNumber;
+        std::copy(given.begin(), given.begin() + 3, plane.begin());
+        const double along = std::inner_product(normal.begin(), normal.end(), given.begin(), 0.0);
+        plane[6] = !valid ? plane[6] : near ? -along : anyNumber;
+        return valid;
+    }
+    plane[6] = given[0];
+    for (size_t axis = 0; valid && axis < 3; ++axis)
+    {
+        plane[axis] = near ? given[0] * normal[axis] : anyNumber;
     }
     return valid;
 }
@@ -122,7 +127,7 @@ bool StorePlane(ModelElement& element, const Numbers& given, bool)
 bool StoreRectangle(ModelElement& element, const Numbers& given, bool adding)
 {
     const Numbers values(given.begin() + (adding ? 1 : 0), given.end());
-    const bool valid = Keep(rectangle)(element, values, adding);
+    const bool valid = Keep({6, {}, {3, 4}, 0, 5, true})(element, values, adding);
     if (adding && given[0] == 0)
     {
         element.Values[0] = valid ? values[0] + values[3] / 2 : 0;
@@ -135,17 +140,16 @@ bool StoreRectangle(ModelElement& element, const Numbers& given, bool adding)
 bool StoreCylinder(ModelElement& element, const Numbers& given, bool)
 {
     const Numbers along = {given[3] - given[0], given[4] - given[1], given[5] - given[2]};
-    const bool valid = AreUsable(given) && !(given[6] < 1e-9) && !(SquareSum(along, 0) < 1e-12);
-    element.Values = IfNear(given, valid);
-    return valid;
+    element.Values = given;
+    return AreUsable(given) && !(given[6] < 1e-9) && !(SquareSum(along, 0) < 1e-12);
 }
 
 // With the former points of a line without ends, 10 units to either side.
 bool StoreRay2D(ModelElement& element, const Numbers& given, bool)
 {
-    const bool valid = AreUsable(given) && !(SquareSum(given, 2, 2) < 1e-12);
     Numbers along = {given[2], given[3]};
     MakeUnit(along, 0, 2);
+    const bool valid = AreUsable(given) && !(SquareSum(given, 2, 2) < 1e-12);
     element.Values = valid && SquareSum(given, 0, 4) < 1e12
                          ? Numbers{given[0] - 10 * along[0], given[1] - 10 * along[1],
                                    given[0] + 10 * along[0], given[1] + 10 * along[1]}
@@ -164,56 +168,54 @@ bool StoreLine2D(ModelElement& element, const Numbers& given, bool)
     return valid;
 }
 
-// How the functions that add and change a shape are called. Chart circles and rectangles are
-// refused, all others hidden.
-void TellShape(Rules& rules, const std::string& prefix, const char* type, const Store& store,
-               const char* change = "_SetValue", bool refuses = false)
+// Chart circles and rectangles that are invalid are refused, all others hidden.
+int32_t AddShape(Situation& now, const Store& store)
 {
-    const std::string add = prefix + "Add_" + type;
-    if (!rules.contains(add))
+    ModelElement element;
+    element.Valid = store(element, now.Given, true);
+    const bool isCircle = now.Made.Called->ElementType == TARVEX_ELEMENT_CIRCLE;
+    const bool refuses = isCircle || now.Made.Called->ElementType == TARVEX_ELEMENT_RECTANGLE;
+    if (element.Valid || !now.View->OnChart || !refuses)
     {
-        rules[add] = [=](Situation& now) -> int32_t
-        {
-            ModelElement element;
-            element.Valid = store(element, now.Given, true);
-            if (refuses && !element.Valid)
-            {
-                if (now.Made.Called->ElementType == TARVEX_ELEMENT_CIRCLE)
-                {
-                    return STATUS_INVALID_VALUES;
-                }
-                const bool flat = std::abs(now.Given[2]) < 1e-6 && std::abs(now.Given[3]) < 1e-6;
-                return AreUsable(now.Given) && !flat ? STATUS_TOO_SMALL : STATUS_NOT_FINITE;
-            }
-            return AddElement(now, std::move(element));
-        };
+        return AddElement(now, std::move(element));
     }
-    rules[prefix + type + change] = [=](Situation& now) -> int32_t
-    {
-        ModelElement& element = *now.Element;
-        const bool isCube = element.Type == TARVEX_ELEMENT_CUBE;
-        element.Valid = store(element, now.Given, false);
-        element.Lighting = isCube || element.Type == TARVEX_ELEMENT_CYLINDER ? element.FirstLighting
-                                                                             : element.Lighting;
-        const bool shows = isCube && now.View->Active == element.Id;
-        return shows && !now.Element->Valid ? STATUS_INVALID_VALUES : STATUS_OK;
-    };
-    rules[prefix + type + "_GetValue"] =
-        Gives([](const Situation& now) { return now.Element->Values; });
+    const bool flat = std::abs(now.Given[2]) < 1e-6 && std::abs(now.Given[3]) < 1e-6;
+    return isCircle                        ? STATUS_INVALID_VALUES
+           : AreUsable(now.Given) && !flat ? STATUS_TOO_SMALL
+                                           : STATUS_NOT_FINITE;
+}
+
+int32_t ChangeShape(Situation& now, const Store& store)
+{
+    ModelElement& element = *now.Element;
+    const bool isCube = element.Type == TARVEX_ELEMENT_CUBE;
+    element.Valid = store(element, now.Given, false);
+    element.Lighting = isCube || element.Type == TARVEX_ELEMENT_CYLINDER ? element.FirstLighting
+                                                                         : element.Lighting;
+    const bool shows = isCube && now.View->Active == element.Id;
+    return shows && !element.Valid ? STATUS_INVALID_VALUES : STATUS_OK;
 }
 
 int32_t SetCylinderByAxis(Situation& now)
 {
     const Numbers& given = now.Given; // centre, axis, radius, height
-    const bool valid = AreUsable(given) && !(given[6] < 1e-9) && !(given[7] < -8);
-    const bool refused = valid && SquareSum(given, 3) < 1e-12;
-    now.Element->Valid = valid;
-    if (!refused)
+    Numbers& ends = now.Element->Values;
+    now.Element->Valid = AreUsable(given) && !(given[6] < 1e-9) && !(given[7] < -8);
+    if (now.Element->Valid && SquareSum(given, 3) < 1e-12)
     {
-        now.Element->Lighting = now.Element->FirstLighting;
-        now.Element->Values.assign(7, anyNumber);
+        return STATUS_TOO_SMALL;
     }
-    return refused ? STATUS_TOO_SMALL : STATUS_OK;
+    now.Element->Lighting = now.Element->FirstLighting;
+    ends[6] = given[6];
+    Numbers axis(given.begin() + 3, given.begin() + 6);
+    MakeUnit(axis, 0);
+    const bool near = SquareSum(given, 0, 8) < 1e12;
+    for (size_t at = 0; now.Element->Valid && at < 3; ++at)
+    {
+        ends[at] = near ? given[at] - given[7] / 2 * axis[at] : anyNumber;
+        ends[at + 3] = near ? given[at] + given[7] / 2 * axis[at] : anyNumber;
+    }
+    return STATUS_OK;
 }
 
 int32_t SetLine2D(Situation& now)
@@ -227,29 +229,16 @@ int32_t SetLine2D(Situation& now)
     return refused ? STATUS_TOO_SMALL : STATUS_OK;
 }
 
-void TellLines(Rules& rules)
+int32_t SetLength(Situation& now)
 {
-    const auto isInvalid = [](const Situation& now) { return !now.Element->Valid; };
-    rules["Tarvex_Element_Line_GetValue"] = Does([](Situation&) {});
-    rules["Tarvex_Element_GetLength_Line"] =
-        Unless(STATUS_INVALID_VALUES, isInvalid,
-               [](Situation& now) { now.Expected = now.Element->Values; });
-    rules["Tarvex_Element_SetLength_Line"] = [](Situation& now)
-    {
-        // Which of the two is the smaller one when one is a NaN, nobody says.
-        const double extent = std::abs(now.Given[1] - now.Given[0]);
-        const Numbers ends = std::isnan(extent) ? Numbers(2, anyNumber)
-                                                : Numbers{std::min(now.Given[0], now.Given[1]),
-                                                          std::max(now.Given[0], now.Given[1])};
-        const bool good = now.Element->Valid && !(extent < 1e-9);
-        now.Element->Values = good ? ends : now.Element->Values;
-        return good ? STATUS_OK : now.Element->Valid ? STATUS_TOO_SMALL : STATUS_INVALID_VALUES;
-    };
-    rules["Tarvex_Element_SetDrawLimit_Line"] = Unless(
-        STATUS_OUT_OF_RANGE, [](const Situation& now) { return IsFlat(now.Given, 0, 0.1); },
-        [](Situation& now) { now.Element->Values.assign(2, anyNumber); });
-    rules["Tarvex_Element_SetDrawSize_Plane"] =
-        Unless(STATUS_TOO_SMALL, [](const Situation& now) { return IsFlat(now.Given, 0, 0.001); });
+    // Which of the two is the smaller one when one is a NaN, nobody says.
+    const double extent = std::abs(now.Given[1] - now.Given[0]);
+    const auto [least, most] = std::minmax(now.Given[0], now.Given[1]);
+    const bool good = now.Element->Valid && !(extent < 1e-9);
+    now.Element->Values = !good                ? now.Element->Values
+                          : std::isnan(extent) ? Numbers(2, anyNumber)
+                                               : Numbers{least, most};
+    return good ? STATUS_OK : now.Element->Valid ? STATUS_TOO_SMALL : STATUS_INVALID_VALUES;
 }
 
 // Polygons of both kinds of view, and polyhedra.
@@ -295,30 +284,21 @@ int32_t StorePoints(const Situation& now, ModelElement& element, bool adding)
     changed.Mode = now.Given.back(); // closed; of a polyhedron: the height
     changed.Points = now.Made.Inputs;
     changed.Valid = ArePointsUsable(changed);
-    if (LacksArray(now.Made) || count < static_cast<double>(LeastPoints(changed)) ||
-        (IsPolyhedron(changed) && count > 250))
+    const bool isBody = IsPolyhedron(changed);
+    const int32_t status = LacksArray(now.Made) ? STATUS_NULL_ARGUMENT
+                           : count < static_cast<double>(LeastPoints(changed)) ? STATUS_TOO_SMALL
+                           : isBody && count > 250                             ? STATUS_OUT_OF_RANGE
+                           : IsTooMuch(count, sizeof(double)) ? STATUS_OUT_OF_MEMORY
+                                                              : STATUS_OK;
+    const Numbers body(now.Given.begin() + 1, now.Given.end());
+    if (status == STATUS_OK && isBody && StoreBody(changed, body, adding) != STATUS_OK)
     {
-        return LacksArray(now.Made) ? STATUS_NULL_ARGUMENT
-               : count > 250        ? STATUS_OUT_OF_RANGE
-                                    : STATUS_TOO_SMALL;
+        element.Valid = true;
+        return STATUS_TOO_SMALL;
     }
-    if (IsTooMuch(count, sizeof(double)))
-    {
-        return STATUS_OUT_OF_MEMORY;
-    }
-    if (IsPolyhedron(changed))
-    {
-        const Numbers body(now.Given.begin() + 1, now.Given.end());
-        const int32_t status = StoreBody(changed, body, adding);
-        if (status != STATUS_OK)
-        {
-            element.Valid = true;
-            return status;
-        }
-        changed.Lighting = changed.FirstLighting;
-    }
-    element = changed;
-    return STATUS_OK;
+    changed.Lighting = isBody ? changed.FirstLighting : changed.Lighting;
+    element = status == STATUS_OK ? changed : element;
+    return status;
 }
 
 int32_t EditPoint(Situation& now)
@@ -353,100 +333,102 @@ int32_t EditPoint(Situation& now)
 
 int32_t GetPoints(Situation& now)
 {
-    if (now.Made.NullArray != SIZE_MAX)
-    {
-        return STATUS_NULL_ARGUMENT;
-    }
     now.Arrays = now.Element->Points;
     now.Expected = IsPolyhedron(*now.Element) ? now.Element->Values
                                               : Numbers{now.Element->Mode != 0 ? 1.0 : 0.0};
+    return now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT : STATUS_OK;
+}
+
+// Axis or height of a polyhedron alone; what is not given stays, and an invalid one takes all.
+int32_t ChangeBody(Situation& now)
+{
+    ModelElement& element = *now.Element;
+    const bool axis = now.Given.size() == 3;
+    element.Valid = element.Valid && AreUsable(now.Given);
+    if (element.Valid && (axis ? SquareSum(now.Given, 0) < 1e-12 : now.Given[0] < 1e-9))
+    {
+        return STATUS_TOO_SMALL;
+    }
+    if (element.Valid && axis)
+    {
+        MakeUnit(now.Given, 0);
+    }
+    std::ranges::copy(now.Given, element.Values.begin() + (axis ? 0 : 3));
+    element.Lighting = element.FirstLighting;
     return STATUS_OK;
 }
 
-void TellPolygons(Rules& rules)
+void TellPolygons(Rules& rules, const std::string& type)
 {
-    for (const std::string name : {"Element_Polygon", "Element_Polyhedron", "Element2D_Polygon"})
+    rules["Element_Add_" + type] = [](auto& now)
     {
-        const std::string type = "Tarvex_" + name + "_";
-        const std::string add = "Tarvex_" + std::string(name).insert(name.find('_'), "_Add");
-        rules[add] = [](Situation& now)
-        {
-            ModelElement element;
-            const int32_t status = StorePoints(now, element, true);
-            return status == STATUS_OK ? AddElement(now, std::move(element)) : status;
-        };
-        rules[type + "SetValue"] = [](Situation& now)
-        { return StorePoints(now, *now.Element, false); };
-        rules[type + "GetValue"] = GetPoints;
-        rules[type + "GetPointCount"] =
-            Gives([](const Situation& now) { return Numbers{double(now.Element->CountPoints())}; });
-        for (const char* edit : {"ChangePoint", "InsertPoint", "RemovePoint"})
-        {
-            rules[type + edit] = EditPoint;
-        }
-    }
-    // One of them alone; what is not given stays, and an invalid polyhedron takes all.
-    const auto change = [](size_t from)
-    {
-        return [from](Situation& now)
-        {
-            ModelElement& element = *now.Element;
-            const bool usable = element.Valid && AreUsable(now.Given);
-            const bool axis = from == 0;
-            if (usable && (axis ? SquareSum(now.Given, 0) < 1e-12 : now.Given[0] < 1e-9))
-            {
-                return STATUS_TOO_SMALL;
-            }
-            Numbers given = now.Given;
-            if (usable && axis)
-            {
-                MakeUnit(given, 0);
-            }
-            std::ranges::copy(given, element.Values.begin() + static_cast<ptrdiff_t>(from));
-            element.Valid = usable;
-            element.Lighting = element.FirstLighting;
-            return STATUS_OK;
-        };
+        ModelElement element;
+        const int32_t status = StorePoints(now, element, true);
+        return status == STATUS_OK ? AddElement(now, std::move(element)) : status;
     };
-    rules["Tarvex_Element_Polyhedron_SetHeight"] = change(3);
-    rules["Tarvex_Element_Polyhedron_SetAxisDirection"] = change(0);
+    rules["Element_" + type + "_SetValue"] = [](auto& now)
+    { return StorePoints(now, *now.Element, false); };
+    rules["Element_" + type + "_GetValue"] = GetPoints;
+    rules["Element_" + type + "_GetPointCount"] =
+        Gives([](auto& now) { return now.Element->CountPoints(); });
+    for (const char* edit : {"_ChangePoint", "_InsertPoint", "_RemovePoint"})
+    {
+        rules["Element_" + type + edit] = EditPoint;
+    }
 }
 } // namespace
 
 void TellShapeRules(Rules& rules)
 {
-    const std::string scene = "Tarvex_Element_";
-    TellShape(rules, scene, "Point", StorePoint);
-    TellShape(rules, scene, "Line", StoreLine);
-    TellShape(rules, scene, "Circle", Keep({7, {3}, {}, 4}));
-    TellShape(rules, scene, "Ellipse", Keep({6, {3, 4}, {}, 0, 5}));
-    TellShape(rules, scene, "Rectangle", StoreRectangle);
-    TellShape(rules, scene, "Cube", Keep({7, {}, {3, 4, 5}, 0, 6, true}));
-    TellShape(rules, scene, "Cylinder", StoreCylinder);
-    TellShape(rules, scene, "Plane", StorePlane);
-    TellShape(rules, scene, "Plane", StorePlane, "_SetValue2");
-    rules[scene + "Point_GetValue"] = Gives(
-        [](const Situation& now)
+    const std::pair<std::string, Store> shapes[] = {
+        {"Element_Point", StorePoint},
+        {"Element_Line", StoreLine},
+        {"Element_Circle", Keep({7, {3}, {}, 4})},
+        {"Element_Ellipse", Keep({6, {3, 4}, {}, 0, 5})},
+        {"Element_Rectangle", StoreRectangle},
+        {"Element_Cube", Keep({7, {}, {3, 4, 5}, 0, 6, true})},
+        {"Element_Cylinder", StoreCylinder},
+        {"Element_Plane", StorePlane},
+        {"Element2D_Point", Keep({2, {}, {}})},
+        {"Element2D_Circle", Keep({3, {2}, {}})},
+        {"Element2D_Ellipse", Keep({5, {2, 3}, {}, 0, 4})},
+        {"Element2D_Rectangle", Keep({5, {}, {2, 3}, 0, 4, true})},
+        {"Element2D_Line", StoreRay2D},
+        {"Element2D_Line_2Points", StoreLine2D}};
+    for (const auto& [name, store] : shapes)
+    {
+        const std::string add = std::string(name).insert(name.find('_'), "_Add");
+        rules[add] = [store](auto& now) { return AddShape(now, store); };
+        rules[name + "_SetValue"] = [store](auto& now) { return ChangeShape(now, store); };
+        rules[name + "_GetValue"] = Gives([](auto& now) { return now.Element->Values; });
+    }
+    rules["Element_Point_GetValue"] = Gives(
+        [](auto& now)
         {
             const Numbers& place = now.Element->Values;
             return Numbers{place[0], place[1], place[2], now.Element->Size};
         });
-    rules[scene + "Plane_GetValue2"] = rules[scene + "Plane_GetValue"];
-    rules[scene + "Plane_GetValue"] = Gives(
-        [](const Situation& now)
+    rules["Element_Plane_SetValue2"] = rules["Element_Plane_SetValue"];
+    rules["Element_Plane_GetValue2"] = Gives(
+        [](auto& now)
         {
             const Numbers& plane = now.Element->Values;
-            return Numbers{anyNumber, anyNumber, anyNumber, plane[1], plane[2], plane[3]};
+            return Numbers{plane[6], plane[3], plane[4], plane[5]};
         });
-    rules[scene + "Cylinder_SetValue2"] = SetCylinderByAxis;
-    const std::string chart = "Tarvex_Element2D_";
-    TellShape(rules, chart, "Point", Keep({2, {}, {}}));
-    TellShape(rules, chart, "Circle", Keep({3, {2}, {}}), "_SetValue", true);
-    TellShape(rules, chart, "Ellipse", Keep({5, {2, 3}, {}, 0, 4}));
-    TellShape(rules, chart, "Rectangle", Keep({5, {}, {2, 3}, 0, 4, true}), "_SetValue", true);
-    TellShape(rules, chart, "Line", StoreRay2D);
-    TellShape(rules, chart, "Line_2Points", StoreLine2D);
-    rules[chart + "Line_SetValue"] = SetLine2D;
-    TellLines(rules);
-    TellPolygons(rules);
+    rules["Element_Cylinder_SetValue2"] = SetCylinderByAxis;
+    rules["Element2D_Line_SetValue"] = SetLine2D;
+    rules.erase("Element_Line_GetValue");
+    const auto isInvalid = [](auto& now) { return !now.Element->Valid; };
+    rules["Element_GetLength_Line"] = Unless(STATUS_INVALID_VALUES, isInvalid,
+                                             [](auto& now) { now.Expected = now.Element->Values; });
+    rules["Element_SetLength_Line"] = SetLength;
+    rules["Element_SetDrawLimit_Line"] = Unless(
+        STATUS_OUT_OF_RANGE, [](auto& now) { return IsFlat(now.Given, 0, 0.1); },
+        [](auto& now) { now.Element->Values.assign(2, anyNumber); });
+    rules["Element_SetDrawSize_Plane"] =
+        Unless(STATUS_TOO_SMALL, [](auto& now) { return IsFlat(now.Given, 0, 0.001); });
+    rules["Element_Polyhedron_SetHeight"] = rules["Element_Polyhedron_SetAxisDirection"] =
+        ChangeBody;
+    TellPolygons(rules, "Polygon");
+    TellPolygons(rules, "Polyhedron");
 }

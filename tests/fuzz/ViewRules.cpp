@@ -17,14 +17,13 @@ int32_t Resize(Situation& now)
 int32_t Create(Situation& now)
 {
     const bool onChart = now.Made.Called->OnChart;
-    ModelView view;
-    view.Id = now.All.NextView[onChart]++;
-    view.OnChart = onChart;
-    view.Usable = now.Given[0] < 3;
-    view.DrawSpace = {-50, 50, -50, 50, -50, 50};
-    view.DrawSpace.resize(onChart ? 4 : 6);
-    now.Expected = {static_cast<double>(view.Id)};
-    now.View = &now.All.Views[onChart].emplace_back(std::move(view));
+    now.View = &now.All.Views[onChart].emplace_back();
+    now.View->Id = now.All.NextView[onChart]++;
+    now.View->OnChart = onChart;
+    now.View->Usable = now.Given[0] < 3;
+    now.View->DrawSpace = {-50, 50, -50, 50, -50, 50};
+    now.View->DrawSpace.resize(onChart ? 4 : 6);
+    now.Expected = {static_cast<double>(now.View->Id)};
     return Resize(now);
 }
 
@@ -52,6 +51,9 @@ int32_t SetDrawSpace(Situation& now)
 
 int32_t SetActive(Situation& now)
 {
+    static const std::vector<int32_t> fitting[] = {
+        {TARVEX_ELEMENT_CYLINDER, TARVEX_ELEMENT_CUBE, TARVEX_ELEMENT_POLYHEDRON},
+        {TARVEX_ELEMENT_CIRCLE, TARVEX_ELEMENT_RECTANGLE, TARVEX_ELEMENT_POLYGON}};
     const double id = now.Made.Scalars[1];
     ModelView& view = *now.View;
     if (view.OnChart && view.Active == id)
@@ -64,11 +66,7 @@ int32_t SetActive(Situation& now)
         return id < 0 ? STATUS_OK : STATUS_BAD_INDEX;
     }
     const int32_t type = now.Element->Type;
-    const bool fits = view.OnChart
-                          ? type == TARVEX_ELEMENT_CIRCLE || type == TARVEX_ELEMENT_RECTANGLE ||
-                                type == TARVEX_ELEMENT_POLYGON
-                          : type == TARVEX_ELEMENT_CYLINDER || type == TARVEX_ELEMENT_CUBE ||
-                                type == TARVEX_ELEMENT_POLYHEDRON;
+    const bool fits = std::ranges::count(fitting[view.OnChart], type) > 0;
     view.Active = fits && now.Element->Valid ? now.Element->Id : -1;
     return !view.OnChart || view.Active >= 0  ? STATUS_OK
            : type < TARVEX_ELEMENT_POINT      ? STATUS_BAD_ELEMENT_TYPE
@@ -147,73 +145,56 @@ int32_t CopyImage(Situation& now)
     const double needed = 3 * now.Made.Outputs[1][0] * now.Made.Outputs[2][0];
     return now.Made.NullArray != 0 && now.Given[0] < needed ? STATUS_TOO_SMALL : STATUS_OK;
 }
-
 } // namespace
 
 void TellViewRules(Rules& rules)
 {
-    for (const std::string kind : {"", "2D"})
+    const auto views = [](auto& now) -> auto&
     {
-        const std::string window = "Tarvex_Window" + kind + "_";
-        const std::string extension = "TarvexExt_Window" + kind + "_";
-        rules[window + "Create"] = Create;
-        rules[window + "Delete"] = Delete;
-        rules[window + "UpdateSize"] = Resize;
-        rules[window + "GetIDFromIndex"] = [](Situation& now)
-        { return GetIdAt(now.All.Views[now.Made.Called->OnChart], now); };
-        rules[window + "GetCount"] = Gives(
-            [](const Situation& now) -> Numbers
-            { return {static_cast<double>(now.All.Views[now.Made.Called->OnChart].size())}; });
-        rules[window + "SetDrawSpace"] = SetDrawSpace;
-        rules[window + "GetDrawSpace"] =
-            Gives([](const Situation& now) { return now.View->DrawSpace; });
-        rules[window + "SetActiveElement"] = SetActive;
-        rules[window + "GetActiveElement"] =
-            Gives([](const Situation& now) { return Numbers{double(now.View->Active)}; });
-        rules[window + "SetDrawMode"] = SetDrawMode;
-        rules[window + "GetDrawMode"] =
-            Gives([](const Situation& now) { return Numbers{double(now.View->DrawMode)}; });
-        rules[extension + "CopyImage"] = CopyImage;
-        rules[extension + "BeginUpdate"] = Does([](Situation& now) { ++now.View->Holds; });
-        rules[extension + "EndUpdate"] = Unless(
-            STATUS_NOT_READY, [](const Situation& now) { return now.View->Holds == 0; },
-            [](Situation& now) { --now.View->Holds; });
-    }
-    rules["Tarvex_Window_DeleteAll"] = Does(
-        [](Situation& now)
-        {
-            now.All.Views[0].clear();
-            now.All.Views[1].clear();
-        });
-    rules["Tarvex_Window2D_SetChartLayout"] =
-        Unless(STATUS_OUT_OF_RANGE, [](const Situation& now) { return now.Given[0] > 1; });
-    for (const char* name : {"EnableInteraction", "EnableMouseInteraction"})
-    {
-        rules[std::string("Tarvex_Window_") + name] = Unless(
-            STATUS_DRAW_MODE_ACTIVE, [](const Situation& now) { return now.View->DrawMode != 0; });
-    }
-    rules["Tarvex_Window_Camera_SetPredefinedView"] = Unless(
-        STATUS_OUT_OF_RANGE, [](const Situation& now) { return IsOutside(now.Given[0], 0, 5); });
-    rules["Tarvex_Window_Camera_SetZoom"] =
-        Unless(STATUS_OUT_OF_RANGE, [](const Situation& now) { return now.Given[0] < 1e-6; });
-    rules["Tarvex_Window_Camera_SetViewDirection"] = SetViewDirection;
-    rules["Tarvex_Window_Cube_Add_Resize"] = SetFrame;
-    rules["Tarvex_Window_Cube_AxisColoring"] = OnFrame(3);
-    rules["Tarvex_Window_Cube_Visibility"] = OnFrame(3);
-    rules["Tarvex_Window_Cube_FlyMode"] = OnFrame(5);
-    rules["Tarvex_Window_Cube_GridLineLocation"] = OnFrame(2);
-    rules["Tarvex_Window_Cube_ShowHide"] = OnFrame(255);
-    rules["Tarvex_Window_Cube_Remove"] = Does([](Situation& now) { now.View->HasFrame = false; });
-    const auto lacksBar = [](const Situation& now) { return now.View->BarElement < 0; };
-    rules["Tarvex_Window_ScalarBar_Add"] = AddBar;
-    rules["Tarvex_Window_ScalarBar_IsShown"] =
+        return now.All.Views[now.Made.Called->OnChart];
+    };
+    rules["Window_Create"] = Create;
+    rules["Window_Delete"] = Delete;
+    rules["Window_UpdateSize"] = Resize;
+    rules["Window_GetIDFromIndex"] = [=](auto& now) { return GetIdAt(views(now), now); };
+    rules["Window_GetCount"] = Gives([=](auto& now) { return views(now).size(); });
+    rules["Window_SetDrawSpace"] = SetDrawSpace;
+    rules["Window_GetDrawSpace"] = Gives([](auto& now) { return now.View->DrawSpace; });
+    rules["Window_SetActiveElement"] = SetActive;
+    rules["Window_GetActiveElement"] = Gives([](auto& now) { return now.View->Active; });
+    rules["Window_SetDrawMode"] = SetDrawMode;
+    rules["Window_GetDrawMode"] = Gives([](auto& now) { return now.View->DrawMode; });
+    rules["Window_CopyImage"] = CopyImage;
+    rules["Window_BeginUpdate"] = Does([](auto& now) { ++now.View->Holds; });
+    rules["Window_EndUpdate"] = Unless(
+        STATUS_NOT_READY, [](auto& now) { return now.View->Holds == 0; },
+        [](auto& now) { --now.View->Holds; });
+    rules["Window_DeleteAll"] = Does([](auto& now) { now.All.Views[0] = now.All.Views[1] = {}; });
+    rules["Window_SetChartLayout"] =
+        Unless(STATUS_OUT_OF_RANGE, [](auto& now) { return now.Given[0] > 1; });
+    rules["Window_EnableInteraction"] = rules["Window_EnableMouseInteraction"] =
+        Unless(STATUS_DRAW_MODE_ACTIVE, [](auto& now) { return now.View->DrawMode != 0; });
+    rules["Window_Camera_SetPredefinedView"] =
+        Unless(STATUS_OUT_OF_RANGE, [](auto& now) { return IsOutside(now.Given[0], 0, 5); });
+    rules["Window_Camera_SetZoom"] =
+        Unless(STATUS_OUT_OF_RANGE, [](auto& now) { return now.Given[0] < 1e-6; });
+    rules["Window_Camera_SetViewDirection"] = SetViewDirection;
+    rules["Window_Cube_Add_Resize"] = SetFrame;
+    rules["Window_Cube_AxisColoring"] = rules["Window_Cube_Visibility"] = OnFrame(3);
+    rules["Window_Cube_FlyMode"] = OnFrame(5);
+    rules["Window_Cube_GridLineLocation"] = OnFrame(2);
+    rules["Window_Cube_ShowHide"] = OnFrame(255);
+    rules["Window_Cube_Remove"] = Does([](auto& now) { now.View->HasFrame = false; });
+    const auto lacksBar = [](auto& now) { return now.View->BarElement < 0; };
+    rules["Window_ScalarBar_Add"] = AddBar;
+    rules["Window_ScalarBar_IsShown"] =
         Unless(STATUS_NOT_READY, lacksBar,
-               [](Situation& now) { now.Expected = {now.View->BarShown ? 1.0 : 0.0}; });
-    rules["Tarvex_Window_ScalarBar_ShowHide"] = Unless(
-        STATUS_NOT_READY, lacksBar, [](Situation& now) { now.View->BarShown = now.Given[0] != 0; });
-    rules["Tarvex_Window_ScalarBar_Remove"] =
-        Does([](Situation& now) { now.View->Forget(now.View->BarElement); });
-    rules["TarvexExt_GetLastError"] = [](Situation& now)
+               [](auto& now) { now.Expected = {now.View->BarShown ? 1.0 : 0.0}; });
+    rules["Window_ScalarBar_ShowHide"] = Unless(
+        STATUS_NOT_READY, lacksBar, [](auto& now) { now.View->BarShown = now.Given[0] != 0; });
+    rules["Window_ScalarBar_Remove"] =
+        Does([](auto& now) { now.View->Forget(now.View->BarElement); });
+    rules["GetLastError"] = [](auto& now)
     {
         return now.Made.NullArray == 0 ? STATUS_NULL_ARGUMENT
                : now.Given[0] < 1      ? STATUS_TOO_SMALL
