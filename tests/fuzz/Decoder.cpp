@@ -49,25 +49,18 @@ struct Style
     bool IsRare; // what ends whole views may happen
 };
 
-// Views and elements would not live long otherwise.
-bool EndsMuch(const Function& function)
-{
-    const std::string& name = function.Name;
-    return name.ends_with("All") || name.ends_with("_Delete") || name.ends_with("_Create");
-}
-
 const Function& ChooseFunction(uint8_t choice, const Style& style, uint8_t other)
 {
     static const auto adds = FindAll([](const Function& function) { return function.Adds; });
     // What a mouse needs to do something.
     static const auto gestures = FindAll(
-        [](const Function& function)
-        {
-            return function.Has(Role::Callback) || function.NameHas("_SetDrawMode") ||
-                   function.NameHas("_SetActiveElement");
+        [](const Function& function) {
+            return function.Has(Role::Callback) ||
+                   function.NameHas("_SetDrawMode", "_SetActiveElement");
         });
     const std::vector<Function>& all = AllFunctions();
-    if (choice < all.size() && (style.IsRare || !EndsMuch(all[choice])))
+    // Views and elements would not live long otherwise.
+    if (choice < all.size() && (style.IsRare || !all[choice].EndsWith("All", "_Delete", "_Create")))
     {
         return all[choice];
     }
@@ -120,72 +113,58 @@ double DrawSample(Role role, const Style& style, unsigned byte, unsigned at)
     return byte < 16 ? TARVEX_INVALID_VALUE : byte < 48 ? mixed : Pick(samples, mixed);
 }
 
-double DrawScalar(Role role, const Model& model, const Call& call, const Style& style, uint8_t byte)
+double DrawScalar(Role role, Model& model, const Call& call, const Style& style, uint8_t byte)
 {
-    const std::string& name = call.Called->Name;
-    const bool sized = name.ends_with("_Create") || name.ends_with("_UpdateSize");
-    switch (role)
-    {
-    case Role::View:
-        return ChooseView(model, call.Called->OnChart, byte);
-    case Role::Count:
-        // The two largest only where a call is meant to be odd.
-        return counts[byte % (style.Wildness == 3 ? 16 : 14)];
-    case Role::Integer:
-        return sized                       ? Pick(sizes, byte)
-               : name.ends_with("Default") ? Pick(elementTypes, byte)
-                                           : Pick(integers, byte);
-    case Role::Unsigned:
-        return byte < 240 ? byte % 8 : byte == 255 ? UINT32_MAX : byte;
-    case Role::Byte:
-        return byte % 4 == 0 ? 0 : byte;
-    case Role::Name:
-        return byte % static_cast<int>(std::size(Hosted::Names));
-    case Role::Parent:
-        return byte < 8 ? 3 : byte < 16 ? 2 : 0;
-    case Role::Callback:
-        return byte % Hosted::scripts;
-    default:
-        return style.Draw(byte);
-    }
+    const Function& called = *call.Called;
+    const bool sized = called.EndsWith("_Create", "_UpdateSize");
+    return role == Role::View      ? ChooseView(model, called.OnChart, byte)
+           : role == Role::Element ? ChooseElement(model, call, byte)
+           // The two largest only where a call is meant to be odd.
+           : role == Role::Count        ? counts[byte % (style.Wildness == 3 ? 16 : 14)]
+           : role == Role::Unsigned     ? (byte < 240    ? byte % 8
+                                           : byte == 255 ? UINT32_MAX
+                                                         : byte)
+           : role == Role::Byte         ? (byte % 4 == 0 ? 0 : byte)
+           : role == Role::Name         ? byte % static_cast<int>(std::size(Hosted::Names))
+           : role == Role::Parent       ? (byte < 8    ? 3
+                                           : byte < 16 ? 2
+                                                       : 0)
+           : role == Role::Callback     ? byte % Hosted::scripts
+           : role != Role::Integer      ? style.Draw(byte)
+           : sized                      ? Pick(sizes, byte)
+           : called.EndsWith("Default") ? Pick(elementTypes, byte)
+                                        : Pick(integers, byte);
 }
 
 void DrawArguments(ByteStream& bytes, Model& model, Call& call, const Style& style)
 {
     double samples = 1;
-    for (const Role role : call.Called->Roles)
+    for (const Role role : call.Called->GetScalarRoles())
     {
-        if (role == Role::Reals || role == Role::Samples || role == Role::Bytes ||
-            role == Role::Output)
-        {
-            continue;
-        }
-        const uint8_t byte = bytes.Next();
-        call.Scalars.push_back(role == Role::Element ? ChooseElement(model, call, byte)
-                                                     : DrawScalar(role, model, call, style, byte));
+        double number = DrawScalar(role, model, call, style, bytes.Next());
         if (role == Role::Count)
         {
-            double& count = call.Scalars.back();
-            const double product = samples * std::max(count, 0.0);
-            count = product > mostSamples && product <= INT32_MAX ? 2 : count;
-            samples *= std::max(count, 0.0);
+            const double product = samples * std::max(number, 0.0);
+            number = product > mostSamples && product <= INT32_MAX ? 2 : number;
+            samples *= std::max(number, 0.0);
         }
+        call.Scalars.push_back(number);
     }
     const bool isText = call.Called->OutputArrays > 0 && !call.Called->Has(Role::Element);
     call.OutputLength = isText ? static_cast<size_t>(std::max(call.Scalars.back(), 1.0)) : 1;
-    call.Inputs.resize(static_cast<size_t>(std::ranges::count_if(call.Called->Roles, IsInput)));
+    std::vector<Role> inputs;
+    std::ranges::copy_if(call.Called->Roles, std::back_inserter(inputs), IsInput);
+    call.Inputs.resize(inputs.size());
     call.FitInputs();
-    auto input = call.Inputs.begin();
-    for (const Role role : call.Called->Roles)
+    for (size_t input = 0; input < inputs.size(); ++input)
     {
-        const uint8_t byte = IsInput(role) ? bytes.Next() : uint8_t{0};
-        for (unsigned at = 0; IsInput(role) && at < input->size(); ++at)
+        const uint8_t byte = bytes.Next();
+        for (unsigned at = 0; at < call.Inputs[input].size(); ++at)
         {
-            (*input)[at] = DrawSample(role, style, byte, at);
+            call.Inputs[input][at] = DrawSample(inputs[input], style, byte, at);
         }
-        input += IsInput(role) ? 1 : 0;
     }
-    const size_t arrays = call.Inputs.size() + call.Called->OutputArrays;
+    const size_t arrays = inputs.size() + call.Called->OutputArrays;
     const uint8_t which = bytes.Next();
     call.NullArray = style.HasNull && arrays > 0 ? which % arrays : SIZE_MAX;
 }
@@ -193,24 +172,22 @@ void DrawArguments(ByteStream& bytes, Model& model, Call& call, const Style& sty
 // Instead of what would let the model grow without end.
 void KeepSmall(Model& model, Call& call)
 {
-    const bool onChart = call.Called->OnChart;
-    const std::string window = onChart ? "Tarvex_Window2D" : "Tarvex_Window";
-    std::vector<ModelView>& views = model.Views[onChart];
-    ModelView* const view = model.ViewOf(call);
-    if (call.Called->Name.ends_with("_Create") && views.size() >= mostViews)
+    const std::string kind = call.Called->OnChart ? "2D_" : "_";
+    const std::vector<ModelView>& views = model.Views[call.Called->OnChart];
+    const ModelView* const view = model.ViewOf(call);
+    const auto isLong = [](const ModelElement& each) { return each.CountPoints() > mostPoints; };
+    if (call.Called->EndsWith("_Create") && views.size() >= mostViews)
     {
-        call = MakeCall(window + "_Delete", {static_cast<double>(views[0].Id)});
+        call = MakeCall("Tarvex_Window" + kind + "Delete", {static_cast<double>(views[0].Id)});
     }
-    else if (view && (view->Elements.size() >= mostElements ||
-                      std::ranges::any_of(view->Elements, [](const ModelElement& element)
-                                          { return element.CountPoints() > mostPoints; })))
+    else if (view &&
+             (view->Elements.size() >= mostElements || std::ranges::any_of(view->Elements, isLong)))
     {
-        const std::string all = onChart ? "Tarvex_Element2D_RemoveAll" : "Tarvex_Element_RemoveAll";
-        call = MakeCall(all, {static_cast<double>(view->Id)});
+        call = MakeCall("Tarvex_Element" + kind + "RemoveAll", {static_cast<double>(view->Id)});
     }
     else if (call.Called->Has(Role::View) && views.empty())
     {
-        call = MakeCall(window + "_Create", {0, 1, 0, 0, 4, 4});
+        call = MakeCall("Tarvex_Window" + kind + "Create", {0, 1, 0, 0, 4, 4});
     }
 }
 } // namespace

@@ -11,34 +11,32 @@ namespace
 {
 Engine* running = nullptr; // of the callbacks
 
-bool IsSame(double held, double expected)
+bool IsSame(double wanted, double held)
 {
-    if (expected == anyNumber || held == expected || (std::isnan(held) && std::isnan(expected)))
-    {
-        return true;
-    }
     constexpr double tolerance = 1e-9; // of sums and unit vectors
-    return std::abs(held - expected) <=
-           tolerance * std::max({1.0, std::abs(held), std::abs(expected)});
+    return wanted == anyNumber || held == wanted || (std::isnan(held) && std::isnan(wanted)) ||
+           std::abs(held - wanted) <=
+               tolerance * std::max(1.0, std::min(std::abs(held), std::abs(wanted)));
 }
 
-const std::string& NameGetter(bool onChart, int32_t type)
+// The name is that of 3D views.
+std::string NameFor(bool onChart, std::string name)
 {
-    static const auto getters = []
-    {
-        std::map<std::pair<bool, int32_t>, std::string> found;
-        for (const Function& function : AllFunctions())
-        {
-            if (function.Name.ends_with("_GetValue"))
-            {
-                found[{function.OnChart, function.ElementType}] = function.Name;
-            }
-        }
-        return found;
-    }();
-    static const std::string none;
-    const auto getter = getters.find({onChart, type});
-    return getter == getters.end() ? none : getter->second;
+    return name.insert(name.find('_', name.find('_') + 1), onChart ? "2D" : "");
+}
+
+Numbers WithId(const ModelView& view, Numbers given)
+{
+    given.insert(given.begin(), view.Id);
+    return given;
+}
+
+// What the library answers, and the model does not know.
+double Ask(const ModelView& view, const std::string& name, const Numbers& given = {})
+{
+    Call call = MakeCall(NameFor(view.OnChart, name), WithId(view, given));
+    call.Perform();
+    return call.Outputs.at(0).at(0);
 }
 
 // What outputs hold after a failure: a value for each, or one for all.
@@ -68,19 +66,13 @@ Numbers GetCleared(const Function& function)
     const bool isCount = function.NameHas("Count") || function.NameHas("Size");
     return {function.TellsIntegers && !isCount ? -1.0 : 0.0};
 }
-
 } // namespace
 
-template <bool onChart, int script>
-void Engine::CallBackStatic(int32_t view, int32_t element)
+template <bool onChart, int... before>
+void Engine::FillCallbacks(std::integer_sequence<int, before...>)
 {
-    running->CallBack(onChart, script, view, element);
-}
-
-template <bool onChart, int... script>
-void Engine::FillCallbacks(std::integer_sequence<int, script...>)
-{
-    ((Hosted::Callbacks[onChart][script] = script ? CallBackStatic<onChart, script> : nullptr),
+    ((Hosted::Callbacks[onChart][before + 1] = [](int32_t view, int32_t element)
+      { running->CallBack(onChart, before + 1, view, element); }),
      ...);
 }
 
@@ -91,8 +83,9 @@ Engine::Engine(bool renders, bool tells) : Renders(renders), Tells(tells)
     setenv("GALLIUM_DRIVER", "softpipe", 0);
     Hosted::Parents[0] = Hosted::Parents[1] = Host.Handle();
     Hosted::Parents[3] = reinterpret_cast<void*>(0x7eadbeef);
-    FillCallbacks<false>(std::make_integer_sequence<int, Hosted::scripts>());
-    FillCallbacks<true>(std::make_integer_sequence<int, Hosted::scripts>());
+    constexpr std::make_integer_sequence<int, Hosted::scripts - 1> scripts;
+    FillCallbacks<false>(scripts);
+    FillCallbacks<true>(scripts);
 }
 
 Engine::~Engine()
@@ -127,24 +120,22 @@ void Engine::Begin(double side, bool reusesViews)
     Complaint.clear();
     for (const bool onChart : {false, true})
     {
-        const std::string window = onChart ? "Tarvex_Window2D_" : "Tarvex_Window_";
         side = onChart ? std::max(side, 96.0) : side; // less has no room for a plot
         std::vector<ModelView> former = Expected.Views[onChart];
-        const bool reuses = reusesViews && !former.empty() && former[0].Usable;
-        if (reuses)
+        if (reusesViews && !former.empty() && former[0].Usable)
         {
             Empty(former[0]);
-            Do(window + "UpdateSize", {static_cast<double>(former[0].Id), 0, 0, side, side});
+            Do(former[0], "Tarvex_Window_UpdateSize", {0, 0, side, side});
             former.erase(former.begin());
         }
         else
         {
-            Do(window + "Create", {0, 1, 0, 0, side, side});
+            Do(NameFor(onChart, "Tarvex_Window_Create"), {0, 1, 0, 0, side, side});
         }
         // Only now: with the last view the connection would go, and the driver with it.
         for (const ModelView& view : former)
         {
-            Do(window + "Delete", {static_cast<double>(view.Id)});
+            Do(view, "Tarvex_Window_Delete");
         }
     }
     if (FirstDefaults.empty())
@@ -154,33 +145,29 @@ void Engine::Begin(double side, bool reusesViews)
     }
     for (const auto& [type, look] : FirstDefaults)
     {
-        Numbers all = {static_cast<double>(Expected.Views[0].at(0).Id), static_cast<double>(type)};
-        all.insert(all.end(), look.begin(), look.end());
-        Do("Tarvex_Element_SetDefault", all);
+        Numbers all = look;
+        all.insert(all.begin(), type);
+        Do(Expected.Views[0].at(0), "Tarvex_Element_SetDefault", all);
     }
 }
 
 void Engine::Empty(const ModelView& view)
 {
-    const double id = view.Id;
-    const std::string digits = view.OnChart ? "2D_" : "_";
-    const std::string window = "Tarvex_Window" + digits;
-    Do("Tarvex_Element" + digits + "RemoveAll", {id});
-    Do(window + "SetDrawMode", {id, 0});
-    Do(window + "RegisterCallback_ElementAdded", {id, 0});
-    Do(window + "RegisterCallback_ElementDragged", {id, 0});
+    Do(view, "Tarvex_Element_RemoveAll");
+    Do(view, "Tarvex_Window_SetDrawMode", {0});
+    Do(view, "Tarvex_Window_RegisterCallback_ElementAdded", {0});
+    Do(view, "Tarvex_Window_RegisterCallback_ElementDragged", {0});
     for (int holds = view.Holds; holds > 0; --holds)
     {
-        Do("TarvexExt_Window" + digits + "EndUpdate", {id});
+        Do(view, "TarvexExt_Window_EndUpdate");
     }
-    if (view.OnChart)
+    const Numbers space = {-50, 50, -50, 50, -50, 50};
+    Do(view, "Tarvex_Window_SetDrawSpace", {space.begin(), space.end() - 2 * view.OnChart});
+    if (!view.OnChart)
     {
-        Do(window + "SetDrawSpace", {id, -50, 50, -50, 50});
-        return;
+        Do(view, "Tarvex_Window_Cube_Remove");
+        Do(view, "Tarvex_Window_EnableMouseInteraction", {1, 1, 1});
     }
-    Do(window + "SetDrawSpace", {id, -50, 50, -50, 50, -50, 50});
-    Do(window + "Cube_Remove", {id});
-    Do(window + "EnableMouseInteraction", {id, 1, 1, 1});
 }
 
 void Engine::Complain(const Call& call, const std::string& what)
@@ -200,12 +187,16 @@ Call Engine::Do(const std::string& name, const Numbers& scalars)
     return call;
 }
 
+Call Engine::Do(const ModelView& view, const std::string& name, const Numbers& given)
+{
+    return Do(NameFor(view.OnChart, name), WithId(view, given));
+}
+
 void Engine::Perform(Call& call)
 {
-    const bool creates = call.Called->Name.ends_with("_Create");
-    ModelView* const view = Expected.ViewOf(call);
+    const ModelView* const view = Expected.ViewOf(call);
     // The hold that keeps the view from rendering stays.
-    if (!Renders && call.Called->Name.ends_with("_EndUpdate") && view && view->Holds == 0)
+    if (!Renders && call.Called->EndsWith("_EndUpdate") && view && view->Holds == 0)
     {
         return;
     }
@@ -214,8 +205,8 @@ void Engine::Perform(Call& call)
         const ModelElement* element = Expected.ElementOf(call);
         call.OutputLength = element ? element->CountPoints() : 0;
     }
-    const std::vector<NativeWindow> before =
-        creates ? Host.Children() : std::vector<NativeWindow>();
+    const bool creates = call.Called->EndsWith("_Create");
+    const size_t windows = creates ? Host.Children().size() : 0;
     if (Tells)
     {
         std::cout << call.Describe() << std::endl;
@@ -227,22 +218,16 @@ void Engine::Perform(Call& call)
     }
     Expectation expected;
     Compare(call, Expected.Follow(call, expected), expected);
-    if (!creates || call.Status != STATUS_OK)
+    if (creates && call.Status == STATUS_OK)
     {
-        return;
-    }
-    const bool onChart = call.Called->OnChart;
-    const auto id = static_cast<int32_t>(call.Outputs[0][0]);
-    for (const NativeWindow window : Host.Children())
-    {
-        if (std::ranges::find(before, window) == before.end())
+        ModelView& created = Expected.Views[call.Called->OnChart].back();
+        const std::vector<NativeWindow> all = Host.Children(); // the newest is on top
+        created.Window = all.size() > windows ? all.back() : 0;
+        if (!Renders)
         {
-            Windows[{onChart, id}] = window;
+            (created.OnChart ? TarvexExt_Window2D_BeginUpdate
+                             : TarvexExt_Window_BeginUpdate)(created.Id);
         }
-    }
-    if (!Renders)
-    {
-        onChart ? TarvexExt_Window2D_BeginUpdate(id) : TarvexExt_Window_BeginUpdate(id);
     }
 }
 
@@ -259,23 +244,21 @@ void Engine::Compare(const Call& call, int32_t status, const Expectation& expect
         CompareCleared(call);
         return;
     }
-    for (size_t array = 0; array < expected.Arrays.size(); ++array)
+    const size_t arrays = expected.Arrays.size();
+    for (size_t at = 0; at < call.Outputs.size() && at < arrays + expected.Values.size(); ++at)
     {
-        if (call.Outputs.at(array).size() < expected.Arrays[array].size() ||
-            !std::ranges::equal(expected.Arrays[array],
-                                std::span(call.Outputs[array]).first(expected.Arrays[array].size()),
-                                [](double wanted, double held) { return IsSame(held, wanted); }))
+        const Numbers& held = call.Outputs[at];
+        const Numbers wanted =
+            at < arrays ? expected.Arrays[at] : Numbers{expected.Values[at - arrays]};
+        const auto differs =
+            held.size() < wanted.size()
+                ? wanted.begin()
+                : std::mismatch(wanted.begin(), wanted.end(), held.begin(), IsSame).first;
+        if (differs != wanted.end())
         {
-            Complain(call, "array " + std::to_string(array) + " differs");
-        }
-    }
-    for (size_t at = 0; at < expected.Values.size(); ++at)
-    {
-        const size_t output = at + expected.Arrays.size();
-        if (output < call.Outputs.size() && !IsSame(call.Outputs[output][0], expected.Values[at]))
-        {
-            Complain(call, "output " + std::to_string(output) + " should be " +
-                               std::to_string(expected.Values[at]));
+            Complain(call, "output " + std::to_string(at) + " should be " +
+                               std::to_string(*differs) + " at " +
+                               std::to_string(differs - wanted.begin()));
         }
     }
 }
@@ -310,51 +293,40 @@ void Engine::LookAfter(const Call& call)
 {
     for (const bool onChart : {false, true})
     {
-        const std::string window = onChart ? "Tarvex_Window2D_" : "Tarvex_Window_";
-        Do(window + "GetCount", {});
-        Do(window + "GetIDFromIndex", {double(Expected.Views[onChart].size()) - 1});
+        Do(NameFor(onChart, "Tarvex_Window_GetCount"), {});
+        Do(NameFor(onChart, "Tarvex_Window_GetIDFromIndex"),
+           {static_cast<double>(Expected.Views[onChart].size()) - 1});
     }
     const ModelView* const view = Expected.ViewOf(call);
     if (!view || !Complaint.empty())
     {
         return;
     }
-    const std::string digits = view->OnChart ? "2D_" : "_";
-    const double id = view->Id;
-    Do("Tarvex_Element" + digits + "GetCount", {id});
-    Do("Tarvex_Element" + digits + "GetIDFromIndex",
-       {id, static_cast<double>(view->Elements.size()) - 1});
-    Do("Tarvex_Window" + digits + "GetActiveElement", {id});
-    Do("Tarvex_Window" + digits + "GetDrawMode", {id});
-    const ModelElement* element = Expected.ElementOf(call);
-    if (call.Called->Adds && !view->Elements.empty())
+    Do(*view, "Tarvex_Element_GetCount");
+    Do(*view, "Tarvex_Element_GetIDFromIndex", {static_cast<double>(view->Elements.size()) - 1});
+    Do(*view, "Tarvex_Window_GetActiveElement");
+    Do(*view, "Tarvex_Window_GetDrawMode");
+    const bool adds = call.Called->Adds && !view->Elements.empty();
+    const ModelElement* const element = adds ? &view->Elements.back() : Expected.ElementOf(call);
+    for (const Function& function : AllFunctions())
     {
-        element = &view->Elements.back();
-    }
-    if (!element)
-    {
-        return;
-    }
-    const Numbers ids = {id, static_cast<double>(element->Id)};
-    const std::string& getter = NameGetter(view->OnChart, element->Type);
-    Do("Tarvex_Element" + digits + "GetType", ids);
-    Do("Tarvex_Element" + digits + "HasValidValues", ids);
-    if (!getter.empty())
-    {
-        Do(getter, ids);
+        const bool isForAny = function.ElementType < 0 && function.OnChart == view->OnChart;
+        // Of the others, some draw.
+        const bool isRead = function.NameHas("_GetValue", "_GetType", "_HasValid") ||
+                            (!Renders && function.NameHas("_Get"));
+        if (element && isRead && function.Has(Role::Element) &&
+            (isForAny || function.IsFor(view->OnChart, element->Type)))
+        {
+            Do(function.Name, {static_cast<double>(view->Id), static_cast<double>(element->Id)});
+        }
     }
 }
 
 void Engine::MoveMouse(const MouseMove& move)
 {
     const std::vector<ModelView>& views = Expected.Views[move.OnChart];
-    if (views.empty())
-    {
-        return;
-    }
-    const ModelView& target = views[move.View % views.size()];
-    const auto window = Windows.find({move.OnChart, target.Id});
-    if (window == Windows.end())
+    const ModelView target = views.empty() ? ModelView() : views[move.View % views.size()];
+    if (target.Window == 0)
     {
         return;
     }
@@ -366,11 +338,11 @@ void Engine::MoveMouse(const MouseMove& move)
                   << y << " button " << move.Button << (move.Press ? " down" : " up")
                   << (move.Drags ? " and on" : "") << std::endl;
     }
-    Host.Send(window->second, x, y, move.Button, move.Press || move.Drags);
+    Host.Send(target.Window, x, y, move.Button, move.Press || move.Drags);
     if (move.Drags)
     {
-        Host.Send(window->second, y * target.Width / target.Height, x, 0, false);
-        Host.Send(window->second, y * target.Width / target.Height, x, move.Button, false);
+        Host.Send(target.Window, y * target.Width / target.Height, x, 0, false);
+        Host.Send(target.Window, y * target.Width / target.Height, x, move.Button, false);
     }
     int32_t descriptor = -1;
     TarvexExt_GetEventDescriptor(&descriptor);
@@ -388,49 +360,32 @@ void Engine::MoveMouse(const MouseMove& move)
 
 void Engine::TakeOverDrawn(ModelView& view)
 {
-    if (!view.Usable)
+    const double count = view.Usable ? Ask(view, "Tarvex_Element_GetCount") : 0;
+    for (auto at = static_cast<double>(view.Elements.size()); at < count; ++at)
     {
-        return;
-    }
-    const bool onChart = view.OnChart;
-    const auto ask = [&](auto* inScene, auto* inChart, auto... given)
-    {
-        int32_t answer = 0;
-        onChart ? inChart(view.Id, given..., &answer) : inScene(view.Id, given..., &answer);
-        return answer;
-    };
-    const int32_t count = ask(Tarvex_Element_GetCount, Tarvex_Element2D_GetCount);
-    while (static_cast<int32_t>(view.Elements.size()) < count)
-    {
-        const auto index = static_cast<int32_t>(view.Elements.size());
-        ModelElement element;
-        element.Id = ask(Tarvex_Element_GetIDFromIndex, Tarvex_Element2D_GetIDFromIndex, index);
-        element.Type = ask(Tarvex_Element_GetType, Tarvex_Element2D_GetType, element.Id);
-        element.FirstLighting = element.Lighting;
+        ModelElement& element = view.Elements.emplace_back();
+        const double id = Ask(view, "Tarvex_Element_GetIDFromIndex", {at});
+        element.Id = static_cast<int32_t>(id);
+        element.Type = static_cast<int32_t>(Ask(view, "Tarvex_Element_GetType", {id}));
         // What is drawn on one spot is no shape.
-        uint8_t valid = 0;
-        (onChart ? Tarvex_Element2D_HasValidValues
-                 : Tarvex_Element_HasValidValues)(view.Id, element.Id, &valid);
-        element.Valid = valid != 0;
-        element.Values.assign(7, anyNumber);
-        element.Mode = 1; // closed
+        element.Valid = Ask(view, "Tarvex_Element_HasValidValues", {id}) != 0;
+        element.FirstLighting = element.Lighting;
+        element.Values.assign(11, anyNumber); // no shape has more
+        element.Mode = 1;                     // closed
         if (element.Id != view.NextElement++)
         {
             Complaint = "a drawn element has the id " + std::to_string(element.Id);
         }
-        int32_t points = 0;
-        if (element.Type == TARVEX_ELEMENT_POLYHEDRON)
+        const bool isPolyhedron = element.Type == TARVEX_ELEMENT_POLYHEDRON;
+        if (isPolyhedron || element.Type == TARVEX_ELEMENT_POLYGON)
         {
-            Tarvex_Element_Polyhedron_GetPointCount(view.Id, element.Id, &points);
+            const double points = Ask(view,
+                                      isPolyhedron ? "Tarvex_Element_Polyhedron_GetPointCount"
+                                                   : "Tarvex_Element_Polygon_GetPointCount",
+                                      {id});
+            element.Points.assign(view.OnChart ? 2 : 3,
+                                  Numbers(static_cast<size_t>(points), anyNumber));
         }
-        else if (element.Type == TARVEX_ELEMENT_POLYGON)
-        {
-            points = ask(Tarvex_Element_Polygon_GetPointCount,
-                         Tarvex_Element2D_Polygon_GetPointCount, element.Id);
-        }
-        element.Points.assign(points > 0 ? onChart ? 2 : 3 : 0,
-                              Numbers(static_cast<size_t>(points), anyNumber));
-        view.Elements.push_back(std::move(element));
     }
     if (ModelElement* const active = view.Find(view.Active))
     {
@@ -447,33 +402,31 @@ void Engine::TakeOverDrawn(ModelView& view)
 // A host that does something to the view in the middle of its event.
 void Engine::CallBack(bool onChart, int script, int32_t viewId, int32_t elementId)
 {
-    ModelView* const view = Expected.Find(onChart, viewId);
-    if (!view)
-    {
-        Complaint = "a callback names the view " + std::to_string(viewId);
-        return;
-    }
     if (Tells)
     {
         std::cout << "callback " << script << " of " << viewId << ' ' << elementId << std::endl;
     }
-    TakeOverDrawn(*view);
-    const double id = viewId;
-    const std::string digits = onChart ? "2D_" : "_";
-    if (!view->Find(elementId))
+    ModelView* const view = Expected.Find(onChart, viewId);
+    if (view)
     {
-        Complaint = "a callback names the element " + std::to_string(elementId);
+        TakeOverDrawn(*view);
+    }
+    if (!view || !view->Find(elementId))
+    {
+        Complaint = "a callback names the view " + std::to_string(viewId) + " and the element " +
+                    std::to_string(elementId);
         return;
     }
     const std::pair<std::string, Numbers> deeds[Hosted::scripts] = {
         {},
-        {"Tarvex_Element" + digits + "Remove", {id, static_cast<double>(elementId)}},
-        {"Tarvex_Window" + digits + "Delete", {id}},
-        {"Tarvex_Window" + digits + "SetDrawMode", {id, 0}},
-        {"Tarvex_Element" + digits + "RemoveAll", {id}},
-        {"Tarvex_Window" + digits + "SetActiveElement", {id, -1}},
+        {"Tarvex_Element_Remove", {static_cast<double>(elementId)}},
+        {"Tarvex_Window_Delete", {}},
+        {"Tarvex_Window_SetDrawMode", {0}},
+        {"Tarvex_Element_RemoveAll", {}},
+        {"Tarvex_Window_SetActiveElement", {-1}},
         {"Tarvex_Window_DeleteAll", {}},
-        {"Tarvex_Window" + digits + "SetDrawMode", {id, 5}}};
-    Do(deeds[script].first, deeds[script].second);
+        {"Tarvex_Window_SetDrawMode", {5}}};
+    const auto& [name, given] = deeds[script];
+    name.ends_with("DeleteAll") ? Do(name, {}) : Do(*view, name, given);
     Do("TarvexExt_ProcessEvents", {});
 }

@@ -4,8 +4,6 @@
 #include "fuzz/Decoder.h"
 #include "support/TestHost.h"
 
-#include <map>
-
 class Engine
 {
 public:
@@ -24,6 +22,8 @@ public:
     void Perform(Call& call);
     // By name, with the ids and numbers that it takes.
     Call Do(const std::string& name, const Numbers& scalars);
+    // By its name for 3D views, with the numbers behind the view's id.
+    Call Do(const ModelView& view, const std::string& name, const Numbers& given = {});
     // What a call has touched is as the model has it.
     void LookAfter(const Call& call);
 
@@ -41,17 +41,14 @@ private:
     void TakeOverDrawn(ModelView& view);
     void Complain(const Call& call, const std::string& what);
     void CallBack(bool onChart, int script, int32_t view, int32_t element);
-    template <bool onChart, int script>
-    static void CallBackStatic(int32_t view, int32_t element);
-    template <bool onChart, int... script>
-    static void FillCallbacks(std::integer_sequence<int, script...> scripts);
+    template <bool onChart, int... before>
+    static void FillCallbacks(std::integer_sequence<int, before...> scripts);
 
     const bool Renders;
     const bool Tells;
     TestHost Host{200, 200};
     Model Expected;
     std::map<int32_t, Numbers> FirstDefaults;
-    std::map<std::pair<bool, int32_t>, NativeWindow> Windows;
     std::string Complaint;
     long Calls = 0;
 };

@@ -11,7 +11,9 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <memory>
 #include <random>
+#include <ranges>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -33,24 +35,9 @@ struct Options
 // Where a child is, also when it dies.
 struct Progress
 {
-    long Sequence;
+    size_t Sequence;
     long Calls;
 };
-
-Bytes ReadFile(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-Bytes MakeBytes(unsigned seed)
-{
-    constexpr size_t bytesOfCall = 8; // about
-    std::mt19937 random(seed);
-    Bytes bytes(2000 * bytesOfCall);
-    std::ranges::generate(bytes, [&] { return static_cast<uint8_t>(random()); });
-    return bytes;
-}
 
 // The bytes of each call. What a call takes depends on it alone, so a model is not needed.
 std::vector<Bytes> Split(const Bytes& bytes)
@@ -60,24 +47,19 @@ std::vector<Bytes> Split(const Bytes& bytes)
     std::vector<Bytes> calls;
     while (!stream.IsAtEnd())
     {
-        const auto start = static_cast<ptrdiff_t>(stream.GetPosition());
+        const auto start = bytes.begin() + static_cast<ptrdiff_t>(stream.GetPosition());
         Call call;
         MouseMove move;
         DecodeStep(stream, none, call, move);
-        calls.emplace_back(bytes.begin() + start,
-                           bytes.begin() + static_cast<ptrdiff_t>(stream.GetPosition()));
+        calls.emplace_back(start, bytes.begin() + static_cast<ptrdiff_t>(stream.GetPosition()));
     }
     return calls;
 }
 
 Bytes Join(const std::vector<Bytes>& calls)
 {
-    Bytes all;
-    for (const Bytes& call : calls)
-    {
-        all.insert(all.end(), call.begin(), call.end());
-    }
-    return all;
+    const auto all = calls | std::views::join | std::views::common;
+    return {all.begin(), all.end()};
 }
 
 class Runner
@@ -90,14 +72,10 @@ public:
     {
         for (const fs::path& path : given.Paths)
         {
-            if (fs::is_directory(path))
-            {
-                std::copy(fs::directory_iterator(path), {}, std::back_inserter(Files));
-            }
-            else
-            {
-                Files.push_back(path);
-            }
+            const bool isFolder = fs::is_directory(path);
+            std::copy(isFolder ? fs::directory_iterator(path) : fs::directory_iterator(), {},
+                      std::back_inserter(Files));
+            Files.insert(Files.end(), isFolder ? 0 : 1, path);
         }
         std::ranges::sort(Files);
     }
@@ -106,14 +84,17 @@ public:
     {
         const auto run = [this](Engine& engine)
         {
-            bool good = true;
-            for (; good && (IsFile() || engine.CountCalls() < Given.Calls); ++At->Sequence)
+            while (IsFile() || engine.CountCalls() < Given.Calls)
             {
-                good = Run(engine, Load(), IsFile());
+                const bool good = Run(engine, Load(), IsFile());
                 At->Calls = engine.CountCalls();
-                At->Sequence -= good ? 0 : 1;
+                if (!good)
+                {
+                    return false;
+                }
+                ++At->Sequence;
             }
-            return good;
+            return true;
         };
         if (InChild(run, false))
         {
@@ -122,13 +103,13 @@ public:
                                      std::to_string(Files.size()) + " kept sequences: 0 findings");
             return At->Calls > 0;
         }
-        std::cout << (IsFile() ? Files[size_t(At->Sequence)].string()
-                               : "seed " + std::to_string(GetSeed()))
-                  << " fails" << std::endl;
+        const std::string seed = std::to_string(GetSeed());
+        std::cout << (IsFile() ? Files[At->Sequence].string() : "seed " + seed) << " fails"
+                  << std::endl;
         if (!IsFile())
         {
             const Bytes cut = Shrink(Load());
-            const std::string path = "failed-" + std::to_string(GetSeed()) + ".case";
+            const std::string path = "failed-" + seed + ".case";
             std::ofstream(path, std::ios::binary)
                 .write(reinterpret_cast<const char*>(cut.data()), std::ssize(cut));
             std::cout << path << ": " << Split(cut).size() << " calls, see them by --tell\n";
@@ -137,14 +118,23 @@ public:
     }
 
 private:
-    bool IsFile() const { return At->Sequence < std::ssize(Files); }
+    bool IsFile() const { return At->Sequence < Files.size(); }
     unsigned GetSeed() const
     {
-        return Given.Seed + static_cast<unsigned>(At->Sequence - std::ssize(Files));
+        return Given.Seed + static_cast<unsigned>(At->Sequence - Files.size());
     }
     Bytes Load() const
     {
-        return IsFile() ? ReadFile(Files[static_cast<size_t>(At->Sequence)]) : MakeBytes(GetSeed());
+        if (IsFile())
+        {
+            std::ifstream file(Files[At->Sequence], std::ios::binary);
+            return {std::istreambuf_iterator<char>(file), {}};
+        }
+        constexpr size_t bytesOfCall = 8; // about
+        std::mt19937 random(GetSeed());
+        Bytes bytes(2000 * bytesOfCall);
+        std::ranges::generate(bytes, [&] { return static_cast<uint8_t>(random()); });
+        return bytes;
     }
 
     static bool Run(Engine& engine, const Bytes& bytes, bool reusesViews)
@@ -152,10 +142,7 @@ private:
         constexpr unsigned hangs = 120; // seconds
         alarm(hangs);
         const bool good = engine.Run(bytes, reusesViews);
-        if (!good)
-        {
-            std::cerr << engine.GetComplaint() << std::endl;
-        }
+        std::cerr << (good ? "" : engine.GetComplaint() + '\n');
         return good;
     }
 
@@ -169,11 +156,9 @@ private:
             {
                 std::freopen("/dev/null", "w", stderr);
             }
-            bool good = false;
-            {
-                Engine engine(Given.Renders, Given.Tells);
-                good = run(engine);
-            }
+            auto engine = std::make_unique<Engine>(Given.Renders, Given.Tells);
+            const bool good = run(*engine);
+            engine.reset();
             std::exit(good ? 0 : 1);
         }
         int status = 0;
@@ -192,10 +177,8 @@ private:
             {
                 std::vector<Bytes> fewer = calls;
                 const auto from = fewer.begin() + static_cast<ptrdiff_t>(at);
-                const size_t count = std::min(piece, fewer.size() - at);
-                fewer.erase(from, from + static_cast<ptrdiff_t>(count));
-                const Bytes joined = Join(fewer);
-                const auto run = [&](Engine& engine) { return Run(engine, joined, false); };
+                fewer.erase(from, from + std::min<ptrdiff_t>(piece, fewer.end() - from));
+                const auto run = [&](Engine& engine) { return Run(engine, Join(fewer), false); };
                 const bool stillFails = !InChild(run, true);
                 calls = stillFails ? fewer : calls;
                 at += stillFails ? 0 : piece;

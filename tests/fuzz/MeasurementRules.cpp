@@ -9,11 +9,6 @@ namespace
 constexpr double missing = TARVEX_INVALID_VALUE;
 constexpr double lastPalette = TARVEX_PALETTE_SINGLE_COLOR;
 
-bool IsAllMissing(const Numbers& samples)
-{
-    return std::ranges::all_of(samples, [](double sample) { return sample == missing; });
-}
-
 size_t CountOf(const Situation& now, size_t at)
 {
     return static_cast<size_t>(std::max(now.Given[at], 0.0));
@@ -23,7 +18,8 @@ size_t CountOf(const Situation& now, size_t at)
 int32_t JudgeSamples(const Situation& now, size_t counts, size_t scales)
 {
     const Function& called = *now.Made.Called;
-    const size_t heights = called.NameHas("NonUniform") ? counts : 0;
+    const Numbers& heights = now.Made.Inputs[called.NameHas("NonUniform") ? counts : 0];
+    const bool isEmpty = std::ranges::count(heights, missing) == std::ssize(heights);
     const bool hasMode = called.Adds && counts == 2;
     const bool usable = AreUsable(now.Given, counts, now.Given.size() - counts - (hasMode ? 1 : 0));
     const auto size = now.Given.begin();
@@ -37,36 +33,27 @@ int32_t JudgeSamples(const Situation& now, size_t counts, size_t scales)
            : *std::min_element(scale, scale + static_cast<ptrdiff_t>(scales)) < 1e-12
                ? STATUS_OUT_OF_RANGE
            : IsTooMuch(samples, counts == 2 ? 2 : 8) ? STATUS_OUT_OF_MEMORY
-           : IsAllMissing(now.Made.Inputs[heights])  ? STATUS_BAD_COUNT
+           : isEmpty                                 ? STATUS_BAD_COUNT
                                                      : STATUS_OK;
 }
 
-void TakeSurface(const Situation& now, ModelElement& element)
-{
-    element.Columns = CountOf(now, 0);
-    element.Rows = CountOf(now, 1);
-    element.HasIntensity = now.Made.NullArray == SIZE_MAX;
-    element.ShowsIntensity = element.ShowsIntensity && element.HasIntensity;
-}
-
-int32_t AddSurface(Situation& now)
+int32_t StoreSurface(Situation& now)
 {
     const int32_t status = JudgeSamples(now, 2, 3);
-    ModelElement element;
-    TakeSurface(now, element);
-    element.Mode = now.Given.back() != 0;
-    return status == STATUS_OK ? AddElement(now, std::move(element)) : status;
-}
-
-int32_t SetSurface(Situation& now)
-{
-    const int32_t status = JudgeSamples(now, 2, 3);
-    if (status == STATUS_OK || status == STATUS_BAD_COUNT)
+    if (status == STATUS_OK && !now.Element)
     {
-        TakeSurface(now, *now.Element);
-        now.Element->Unbuilt = status != STATUS_OK;
-        now.Element->Lighting =
-            status == STATUS_OK ? now.Element->FirstLighting : now.Element->Lighting;
+        AddElement(now);
+        now.Element->Mode = now.Given.back() != 0;
+    }
+    if (now.Element && (status == STATUS_OK || status == STATUS_BAD_COUNT))
+    {
+        ModelElement& element = *now.Element;
+        element.Columns = CountOf(now, 0);
+        element.Rows = CountOf(now, 1);
+        element.HasIntensity = now.Made.NullArray == SIZE_MAX;
+        element.ShowsIntensity = element.ShowsIntensity && element.HasIntensity;
+        element.Unbuilt = status != STATUS_OK;
+        element.Lighting = element.Unbuilt ? element.Lighting : element.FirstLighting;
     }
     return status;
 }
@@ -90,32 +77,22 @@ int32_t SetPalette(Situation& now)
 
 int32_t SetScaling(Situation& now)
 {
-    ModelElement& element = *now.Element;
-    const double percent = now.Given[1];
-    const double least = now.Given[2];
-    const double most = now.Given[3];
-    const bool automatic = now.Given[0] != 0;
-    if (automatic ? percent < 0 || percent > 45 : least >= most - 0.001)
+    Numbers& held = now.Element->Scaling;
+    const Numbers& given = now.Given;
+    const bool automatic = given[0] != 0;
+    if (automatic ? IsOutside(given[1], 0, 45) : given[2] >= given[3] - 0.001)
     {
         return STATUS_OUT_OF_RANGE;
     }
-    if (automatic && element.ShowsIntensity)
+    if (now.Element->ShowsIntensity)
     {
-        return STATUS_BAD_POINT;
+        const bool isOutside = given[2] < 0 || given[3] > 255 || given[3] - given[2] < 1;
+        held[0] = automatic ? held[0] : 0;
+        return automatic ? STATUS_BAD_POINT : isOutside ? STATUS_OUT_OF_RANGE : STATUS_OK;
     }
-    element.Scaling[0] = automatic;
-    if (automatic)
-    {
-        element.Scaling[1] = percent;
-        return element.Unbuilt ? STATUS_BAD_COUNT : STATUS_OK;
-    }
-    if (element.ShowsIntensity)
-    {
-        return least < 0 || most > 255 || most - least < 1 ? STATUS_OUT_OF_RANGE : STATUS_OK;
-    }
-    element.Scaling[2] = least;
-    element.Scaling[3] = most;
-    return STATUS_OK;
+    held = automatic ? Numbers{1, given[1], held[2], held[3]}
+                     : Numbers{0, held[1], given[2], given[3]};
+    return automatic && now.Element->Unbuilt ? STATUS_BAD_COUNT : STATUS_OK;
 }
 
 // The samples of a chart profile, in chart coordinates: x, y, valid.
@@ -151,33 +128,28 @@ int32_t JudgeChartSamples(const Situation& now, double least)
                                         : STATUS_OK;
 }
 
-bool IsEmpty(const std::vector<Numbers>& samples)
-{
-    return std::ranges::count(samples[2], 0.0) == static_cast<ptrdiff_t>(samples[2].size());
-}
-
 Rule SetSamples(double least, bool attaches = false)
 {
     return [=](Situation& now) -> int32_t
     {
         const bool uniform = now.Made.Called->ElementType == TARVEX_ELEMENT_PROFILE_UNIFORM;
-        if (now.Element && now.Element->Empty)
-        {
-            return STATUS_NOT_READY;
-        }
-        const int32_t status = JudgeChartSamples(now, least);
+        const int32_t status = now.Element && now.Element->Empty ? int32_t{STATUS_NOT_READY}
+                                                                 : JudgeChartSamples(now, least);
         if (status != STATUS_OK)
         {
             return status;
         }
         const std::vector<Numbers> samples = ReadSamples(now);
-        const bool empty = uniform && IsEmpty(samples);
+        const bool empty = uniform && std::ranges::count(samples[2], 0) == std::ssize(samples[2]);
+        if (!now.Element && empty)
+        {
+            return STATUS_NOT_READY;
+        }
         if (!now.Element)
         {
-            ModelElement element;
-            element.Points = samples;
-            return empty ? STATUS_NOT_READY : AddElement(now, std::move(element));
+            AddElement(now);
         }
+        now.Element->Points.resize(3);
         for (size_t axis = 0; axis < 3; ++axis)
         {
             Numbers& held = now.Element->Points[axis];
@@ -192,7 +164,6 @@ Rule SetSamples(double least, bool attaches = false)
 // Bytes as they are; 16-bit values that are reduced are not known.
 int32_t SetImage(Situation& now)
 {
-    const bool isByte = now.Made.Called->Has(Role::Bytes);
     const bool tooFine = now.Given[2] < 1e-10 || now.Given[3] < 1e-10 || now.Given[4] < 1e-10;
     const int32_t status = LacksArray(now.Made)                        ? STATUS_NULL_ARGUMENT
                            : std::min(now.Given[0], now.Given[1]) < 2  ? STATUS_TOO_SMALL
@@ -203,29 +174,27 @@ int32_t SetImage(Situation& now)
     {
         return status;
     }
-    ModelElement* element = now.Element;
-    for (ModelElement& other : now.View->Elements)
+    const auto image =
+        std::ranges::find(now.View->Elements, TARVEX_ELEMENT_IMAGE, &ModelElement::Type);
+    now.Element = image == now.View->Elements.end() ? nullptr : &*image;
+    if (!now.Element)
     {
-        element = other.Type == TARVEX_ELEMENT_IMAGE ? &other : element;
+        AddElement(now);
     }
-    if (!element)
-    {
-        AddElement(now, {});
-        element = &now.View->Elements.back();
-    }
-    now.Expected = now.Made.Called->Adds ? Numbers{static_cast<double>(element->Id)} : Numbers{};
-    element->Columns = CountOf(now, 0);
-    element->Rows = CountOf(now, 1);
+    ModelElement& element = *now.Element;
+    now.Expected = now.Made.Called->Adds ? Numbers{static_cast<double>(element.Id)} : Numbers{};
+    element.Columns = CountOf(now, 0);
+    element.Rows = CountOf(now, 1);
     const Numbers& pixels = now.Made.Inputs[0];
     const bool fits =
         std::ranges::all_of(pixels, [](double value) { return value >= 0 && value <= 255; });
-    element->Points = {fits ? pixels : Numbers(pixels.size(), anyNumber)};
-    element->Values = {now.Given.begin() + 2, now.Given.begin() + 8};
-    if (!isByte && !fits)
+    element.Points = {fits ? pixels : Numbers(pixels.size(), anyNumber)};
+    element.Values = {now.Given.begin() + 2, now.Given.begin() + 8};
+    if (!now.Made.Called->Has(Role::Bytes) && !fits)
     {
-        element->Values[2] = element->Values[5] = anyNumber;
+        element.Values[2] = element.Values[5] = anyNumber;
     }
-    element->Palettes[0] = now.Given[8];
+    element.Palettes[0] = now.Given[8];
     return STATUS_OK;
 }
 } // namespace
@@ -233,8 +202,7 @@ int32_t SetImage(Situation& now)
 void TellMeasurementRules(Rules& rules)
 {
     const std::string surface = "_SurfaceUniform";
-    rules["Element_Add" + surface] = AddSurface;
-    rules["Element" + surface + "_SetValue"] = SetSurface;
+    rules["Element_Add" + surface] = rules["Element" + surface + "_SetValue"] = StoreSurface;
     rules["Element" + surface + "_AddIntensity"] = AddIntensity;
     rules["Element_ShowIntensity" + surface] = Unless(
         STATUS_NOT_READY, [](auto& now) { return now.Given[0] != 0 && !now.Element->HasIntensity; },
@@ -256,7 +224,7 @@ void TellMeasurementRules(Rules& rules)
     rules["Element_Add_ProfileUniform"] = [](auto& now)
     {
         const int32_t status = JudgeSamples(now, 1, 2);
-        return status == STATUS_OK ? AddElement(now, {}) : status;
+        return status == STATUS_OK ? AddElement(now) : status;
     };
     const std::string chart = "Element2D_";
     for (const std::string data : {"_GeneralData", "_KorData"})

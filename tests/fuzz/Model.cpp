@@ -218,6 +218,6 @@ int32_t AddElement(Situation& now, ModelElement element)
         }
     }
     now.Expected = {static_cast<double>(element.Id)};
-    now.View->Elements.push_back(std::move(element));
+    now.Element = &now.View->Elements.emplace_back(std::move(element));
     return STATUS_OK;
 }

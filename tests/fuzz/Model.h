@@ -56,6 +56,7 @@ struct ModelView
     int32_t BarElement = -1;
     bool BarShown = false;
     int Holds = 0;
+    unsigned long Window = 0; // 0: no child of the host's
     int Width = 4;
     int Height = 4;
 };
@@ -121,7 +122,8 @@ double FoldAngle(double degrees, bool halfTurns);
 bool IsTooMuch(double count, size_t bytes);
 // An array that is needed is null.
 bool LacksArray(const Call& call);
-int32_t AddElement(Situation& now, ModelElement element);
+// Which is the situation's from then on.
+int32_t AddElement(Situation& now, ModelElement element = {});
 
 // One number, or more.
 struct Answer : Numbers
