@@ -8,14 +8,15 @@
 namespace
 {
 constexpr double infinity = HUGE_VAL;
-constexpr double mild[] = {0,  1,     0.5, 2,    10,  -1, -10,  100, 0.25, 3, -3.5,
-                           45, 0.001, 360, -180, 0.1, 20, -0.5, 5,   400,  7, -400};
+constexpr double mild[] = {0,   1,    0.5, 2,  10,   -1, -10, 100, 0.25, 3,   -3.5, 45,  0.001,
+                           360, -180, 0.1, 20, -0.5, 5,  400, 7,   -400, 180, -360, 540, -540};
 constexpr double wild[] = {NAN,   infinity, -infinity, DBL_MIN, DBL_MAX, -DBL_MAX,
                            1e300, -1e300,   5e-324,    1e-310,  1e-7,    1e-13,
                            1e-10, 1e30,     1e39,      1e16,    -1e18,   -9223372036854.5,
                            4e9,   1e154,    -0.0,      1e-5,    3e-9,    9.3e18};
 constexpr double counts[] = {2, 3, 4, 5, 2, 3, 6, 1, 0, -1, 7, 16, 4, 3, 251, 65536};
 constexpr double integers[] = {0, 1, 2, 3, 4, 5, 6, 7, 0, 1, 2, 3, 8, -1, INT32_MAX, INT32_MIN};
+constexpr double scaling[] = {0, 10, 10.5, 11, 254, 255, 255.1, -0.1, 44.9, 45.1};
 constexpr double sizes[] = {4, 5, 96, 8, 0, -1, 24, 4};
 constexpr double noIds[] = {-1, 1000, INT32_MAX, INT32_MIN};
 constexpr double elementTypes[] = {0, 1, 2, 3, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, -1};
@@ -116,6 +117,8 @@ double DrawSample(Role role, const Style& style, unsigned byte, unsigned at)
 double DrawScalar(Role role, Model& model, const Call& call, const Style& style, uint8_t byte)
 {
     const Function& called = *call.Called;
+    const bool scales =
+        role == Role::Real && style.Wildness < 2 && called.NameHas("_ZScalingPalette");
     const bool sized = called.EndsWith("_Create", "_UpdateSize");
     return role == Role::View      ? ChooseView(model, called.OnChart, byte)
            : role == Role::Element ? ChooseElement(model, call, byte)
@@ -130,6 +133,7 @@ double DrawScalar(Role role, Model& model, const Call& call, const Style& style,
                                            : byte < 16 ? 2
                                                        : 0)
            : role == Role::Callback     ? byte % Hosted::scripts
+           : scales                     ? Pick(scaling, byte)
            : role != Role::Integer      ? style.Draw(byte)
            : sized                      ? Pick(sizes, byte)
            : called.EndsWith("Default") ? Pick(elementTypes, byte)

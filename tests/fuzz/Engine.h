@@ -35,10 +35,10 @@ public:
 
 private:
     void Empty(const ModelView& view);
-    void Compare(const Call& call, int32_t status, const Expectation& expected);
-    void CompareCleared(const Call& call);
+    void Compare(const Call& call, int32_t status, Expectation expected);
     void MoveMouse(const MouseMove& move);
     void TakeOverDrawn(ModelView& view);
+    void Tell(const std::string& what) const;
     void Complain(const Call& call, const std::string& what);
     void CallBack(bool onChart, int script, int32_t view, int32_t element);
     template <bool onChart, int... before>

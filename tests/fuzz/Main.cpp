@@ -23,15 +23,6 @@ namespace
 using Bytes = std::vector<uint8_t>;
 namespace fs = std::filesystem;
 
-struct Options
-{
-    bool Renders = false;
-    bool Tells = false;
-    unsigned Seed = 1;
-    long Calls = -1;
-    std::vector<fs::path> Paths;
-};
-
 // Where a child is, also when it dies.
 struct Progress
 {
@@ -65,12 +56,9 @@ Bytes Join(const std::vector<Bytes>& calls)
 class Runner
 {
 public:
-    explicit Runner(const Options& given)
-        : Given(given),
-          At(static_cast<Progress*>(mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE,
-                                         MAP_SHARED | MAP_ANONYMOUS, -1, 0)))
+    bool RunAll()
     {
-        for (const fs::path& path : given.Paths)
+        for (const fs::path& path : Paths)
         {
             const bool isFolder = fs::is_directory(path);
             std::copy(isFolder ? fs::directory_iterator(path) : fs::directory_iterator(), {},
@@ -78,13 +66,9 @@ public:
             Files.insert(Files.end(), isFolder ? 0 : 1, path);
         }
         std::ranges::sort(Files);
-    }
-
-    bool RunAll()
-    {
         const auto run = [this](Engine& engine)
         {
-            while (IsFile() || engine.CountCalls() < Given.Calls)
+            while (IsFile() || engine.CountCalls() < Calls)
             {
                 const bool good = Run(engine, Load(), IsFile());
                 At->Calls = engine.CountCalls();
@@ -99,7 +83,7 @@ public:
         if (InChild(run, false))
         {
             ReportFigure("fuzz", std::to_string(At->Calls) + " calls" +
-                                     (Given.Renders ? " with pictures" : "") + ", " +
+                                     (Renders ? " with pictures" : "") + ", " +
                                      std::to_string(Files.size()) + " kept sequences: 0 findings");
             return At->Calls > 0;
         }
@@ -117,12 +101,15 @@ public:
         return false;
     }
 
+    bool Renders = false;
+    bool Tells = false;
+    unsigned Seed = 1;
+    long Calls = -1;
+    std::vector<fs::path> Paths;
+
 private:
     bool IsFile() const { return At->Sequence < Files.size(); }
-    unsigned GetSeed() const
-    {
-        return Given.Seed + static_cast<unsigned>(At->Sequence - Files.size());
-    }
+    unsigned GetSeed() const { return Seed + static_cast<unsigned>(At->Sequence - Files.size()); }
     Bytes Load() const
     {
         if (IsFile())
@@ -156,7 +143,7 @@ private:
             {
                 std::freopen("/dev/null", "w", stderr);
             }
-            auto engine = std::make_unique<Engine>(Given.Renders, Given.Tells);
+            auto engine = std::make_unique<Engine>(Renders, Tells);
             const bool good = run(*engine);
             engine.reset();
             std::exit(good ? 0 : 1);
@@ -187,25 +174,25 @@ private:
         return Join(calls);
     }
 
-    const Options Given;
-    Progress* const At;
+    Progress* const At = static_cast<Progress*>(
+        mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     std::vector<fs::path> Files;
 };
 } // namespace
 
 int main(int argc, char** argv)
 {
-    Options options;
+    Runner runner;
     CLI::App app("Calls the library at random, and holds it against a model");
-    app.add_flag("--renders", options.Renders, "With pictures: ten times as slow");
-    app.add_flag("--tell", options.Tells, "Print each call");
-    app.add_option("--seed", options.Seed, "Of the first random sequence");
-    app.add_option("--calls", options.Calls, "How many to make in random sequences");
-    app.add_option("paths", options.Paths, "Sequences to make first: files, or folders of them");
+    app.add_flag("--renders", runner.Renders, "With pictures: ten times as slow");
+    app.add_flag("--tell", runner.Tells, "Print each call");
+    app.add_option("--seed", runner.Seed, "Of the first random sequence");
+    app.add_option("--calls", runner.Calls, "How many to make in random sequences");
+    app.add_option("paths", runner.Paths, "Sequences to make first: files, or folders of them");
     CLI11_PARSE(app, argc, argv);
-    if (options.Calls < 0)
+    if (runner.Calls < 0)
     {
-        options.Calls = options.Renders ? Effort(1'000L, 200'000L) : Effort(10'000L, 1'000'000L);
+        runner.Calls = runner.Renders ? Effort(1'000L, 200'000L) : Effort(10'000L, 1'000'000L);
     }
-    return Runner(options).RunAll() ? 0 : 1;
+    return runner.RunAll() ? 0 : 1;
 }

@@ -239,14 +239,6 @@ void TellMeasurementRules(Rules& rules)
     rules["Element_ProfileUniform_GetPointCount"] = Unless(
         STATUS_NOT_READY, [](auto& now) { return now.Element->Empty; },
         [](auto& now) { now.Expected = Answer(now.Element->CountPoints()); });
-    rules["Element_ProfileUniform_GetValue"] = rules["Element_Image_GetValue"] = [](auto& now)
-    {
-        now.Arrays = now.Element->Points;
-        now.Expected = now.Element->Values;
-        return now.Element->Empty               ? STATUS_NOT_READY
-               : now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT
-                                                : STATUS_OK;
-    };
     for (const char* form : {"Byte", "Short"})
     {
         rules[std::string("Element_Add_Image") + form] = SetImage;

@@ -31,18 +31,6 @@ Rule FindRule(std::string name)
     return {};
 }
 
-// These need no native window.
-bool IsUnguarded(const Function& function)
-{
-    return function.EndsWith("_Delete", "_GetCount", "_GetIDFromIndex", "_GetType", "Default") ||
-           function.NameHas("RegisterCallback");
-}
-// These ask first for the scale frame or the scalar bar, which no view without a window has.
-bool NeedsFurniture(const Function& function)
-{
-    return (function.NameHas("Window_Cube_") && !function.EndsWith("_Resize", "_Remove")) ||
-           function.EndsWith("ScalarBar_ShowHide", "ScalarBar_IsShown");
-}
 } // namespace
 
 ModelElement* ModelView::Find(double id)
@@ -88,9 +76,16 @@ int32_t Model::Follow(const Call& call, Expectation& expected)
     {
         return STATUS_WINDOW_NOT_FOUND;
     }
-    if (view && !view->Usable && !IsUnguarded(function))
+    const bool needsNoWindow =
+        function.NameHas("RegisterCallback") ||
+        function.EndsWith("_Delete", "_GetCount", "_GetIDFromIndex", "_GetType", "Default");
+    if (view && !view->Usable && !needsNoWindow)
     {
-        return NeedsFurniture(function) ? STATUS_NOT_READY : STATUS_NO_NATIVE_WINDOW;
+        // No view without a window has a scale frame or a scalar bar, which these ask for first.
+        const bool isOfFrame = function.NameHas("Window_Cube_") && !function.EndsWith("_Resize");
+        const bool isOfBar = function.NameHas("Window_ScalarBar_") && !function.EndsWith("_Add");
+        return (isOfFrame || isOfBar) && !function.EndsWith("_Remove") ? STATUS_NOT_READY
+                                                                       : STATUS_NO_NATIVE_WINDOW;
     }
     ModelElement* const element = ElementOf(call);
     const bool onElement = function.Has(Role::Element);

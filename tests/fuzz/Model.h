@@ -51,7 +51,7 @@ struct ModelView
     std::vector<ModelElement> Elements;
     int32_t Active = -1;
     int32_t DrawMode = 0;
-    Numbers DrawSpace;
+    Numbers DrawSpace = {-50, 50, -50, 50, -50, 50};
     bool HasFrame = false;
     int32_t BarElement = -1;
     bool BarShown = false;

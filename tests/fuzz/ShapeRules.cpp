@@ -25,25 +25,24 @@ Numbers IfNear(const Numbers& values, bool known = true)
 }
 
 // The numbers from `from` on as a unit vector; unknown where rounding or overflow decides.
-void MakeUnit(Numbers& values, size_t from, size_t count = 3)
+void MakeUnit(Numbers& values, ptrdiff_t from, ptrdiff_t count = 3)
 {
-    const double length =
-        std::sqrt(SquareSum(values, static_cast<ptrdiff_t>(from), static_cast<ptrdiff_t>(count)));
-    for (size_t at = from; at < from + count; ++at)
-    {
-        values[at] = length > 0 && length < 1e100 ? values[at] / length : anyNumber;
-    }
+    const double length = std::sqrt(SquareSum(values, from, count));
+    std::transform(values.begin() + from, values.begin() + from + count, values.begin() + from,
+                   [&](double value)
+                   { return length > 0 && length < 1e100 ? value / length : anyNumber; });
 }
 
+// Added by a direction, changed by a second point.
 bool StoreLine(ModelElement& element, const Numbers& given, bool adding)
 {
-    if (adding)
+    Numbers along(given.begin() + 3, given.end());
+    for (size_t axis = 0; !adding && axis < 3; ++axis)
     {
-        return AreUsable(given) && !(SquareSum(given, 3) < 1e-12);
+        along[axis] -= given[axis];
     }
-    const Numbers along = {given[3] - given[0], given[4] - given[1], given[5] - given[2]};
     const double square = SquareSum(along, 0);
-    const bool valid = AreUsable(given) && !(square < 1e-18);
+    const bool valid = AreUsable(given) && !(square < (adding ? 1e-12 : 1e-18));
     if (valid)
     {
         element.Values = {0, square < 1e200 ? std::sqrt(square) : anyNumber};
@@ -79,7 +78,7 @@ Store Keep(const Form& form)
             std::ranges::none_of(form.Lengths, [&](size_t at) { return values[at] < 1e-9; });
         if (valid && form.Normal)
         {
-            MakeUnit(values, static_cast<size_t>(form.Normal));
+            MakeUnit(values, form.Normal);
         }
         if (valid && form.Angle && (adding || isEllipse2D))
         {
@@ -100,6 +99,7 @@ bool StorePlane(ModelElement& element, const Numbers& given, bool)
 {
     const bool byPoint = given.size() == 6;
     const bool valid = AreUsable(given) && !(SquareSum(given, byPoint ? 3 : 1) < 1e-12);
+    const bool near = SquareSum(given, 0, std::ssize(given)) < 1e12;
     Numbers& plane = element.Values;
     plane.resize(7);
     std::copy(given.end() - 3, given.end(), plane.begin() + 3);
@@ -107,20 +107,15 @@ bool StorePlane(ModelElement& element, const Numbers& given, bool)
     {
         MakeUnit(plane, 3);
     }
-    const Numbers normal(plane.begin() + 3, plane.begin() + 6);
-    const bool near = SquareSum(given, 0, std::ssize(given)) < 1e12;
-    if (byPoint)
+    for (size_t axis = 0; axis < 3; ++axis)
     {
-        std::copy(given.begin(), given.begin() + 3, plane.begin());
-        const double along = std::inner_product(normal.begin(), normal.end(), given.begin(), 0.0);
-        plane[6] = !valid ? plane[6] : near ? -along : anyNumber;
-        return valid;
+        plane[axis] = byPoint  ? given[axis]
+                      : !valid ? plane[axis]
+                      : near   ? given[0] * plane[axis + 3]
+                               : anyNumber;
     }
-    plane[6] = given[0];
-    for (size_t axis = 0; valid && axis < 3; ++axis)
-    {
-        plane[axis] = near ? given[0] * normal[axis] : anyNumber;
-    }
+    const double along = std::inner_product(plane.begin(), plane.begin() + 3, &plane[3], 0.0);
+    plane[6] = !byPoint ? given[0] : !valid ? plane[6] : near ? -along : anyNumber;
     return valid;
 }
 
@@ -136,12 +131,22 @@ bool StoreRectangle(ModelElement& element, const Numbers& given, bool adding)
     return valid;
 }
 
-// Kept as two ends and radius.
-bool StoreCylinder(ModelElement& element, const Numbers& given, bool)
+// Kept as two ends, radius, axis and height. An invalid cylinder keeps what the call did not give.
+bool StoreCylinder(ModelElement& element, const Numbers& given, bool adding)
 {
-    const Numbers along = {given[3] - given[0], given[4] - given[1], given[5] - given[2]};
-    element.Values = given;
-    return AreUsable(given) && !(given[6] < 1e-9) && !(SquareSum(along, 0) < 1e-12);
+    Numbers along = {given[3] - given[0], given[4] - given[1], given[5] - given[2]};
+    const double square = SquareSum(along, 0);
+    const bool valid = AreUsable(given) && !(given[6] < 1e-9) && !(square < 1e-12);
+    Numbers& values = element.Values;
+    values = adding ? Numbers{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 10} : values;
+    std::ranges::copy(given, values.begin());
+    if (valid)
+    {
+        MakeUnit(along, 0);
+        std::ranges::copy(along, values.begin() + 7);
+        values[10] = square < 1e200 ? std::sqrt(square) : anyNumber;
+    }
+    return valid;
 }
 
 // With the former points of a line without ends, 10 units to either side.
@@ -198,23 +203,29 @@ int32_t ChangeShape(Situation& now, const Store& store)
 
 int32_t SetCylinderByAxis(Situation& now)
 {
-    const Numbers& given = now.Given; // centre, axis, radius, height
-    Numbers& ends = now.Element->Values;
-    now.Element->Valid = AreUsable(given) && !(given[6] < 1e-9) && !(given[7] < -8);
-    if (now.Element->Valid && SquareSum(given, 3) < 1e-12)
+    Numbers given = now.Given; // centre, axis, radius, height
+    Numbers& values = now.Element->Values;
+    const bool near = SquareSum(given, 0, 8) < 1e12;
+    const bool valid = AreUsable(given) && !(given[6] < 1e-9) && !(given[7] < -8);
+    now.Element->Valid = valid;
+    if (valid && SquareSum(given, 3) < 1e-12)
     {
         return STATUS_TOO_SMALL;
     }
-    now.Element->Lighting = now.Element->FirstLighting;
-    ends[6] = given[6];
-    Numbers axis(given.begin() + 3, given.begin() + 6);
-    MakeUnit(axis, 0);
-    const bool near = SquareSum(given, 0, 8) < 1e12;
-    for (size_t at = 0; now.Element->Valid && at < 3; ++at)
+    if (valid)
     {
-        ends[at] = near ? given[at] - given[7] / 2 * axis[at] : anyNumber;
-        ends[at + 3] = near ? given[at] + given[7] / 2 * axis[at] : anyNumber;
+        MakeUnit(given, 3);
     }
+    for (size_t axis = 0; axis < 3; ++axis)
+    {
+        const double half = given[7] / 2 * given[axis + 3];
+        values[axis] = !valid ? values[axis] : near ? given[axis] - half : anyNumber;
+        values[axis + 3] = !valid ? values[axis + 3] : near ? given[axis] + half : anyNumber;
+        values[axis + 7] = given[axis + 3];
+    }
+    values[6] = given[6];
+    values[10] = given[7];
+    now.Element->Lighting = now.Element->FirstLighting;
     return STATUS_OK;
 }
 
@@ -241,7 +252,6 @@ int32_t SetLength(Situation& now)
     return good ? STATUS_OK : now.Element->Valid ? STATUS_TOO_SMALL : STATUS_INVALID_VALUES;
 }
 
-// Polygons of both kinds of view, and polyhedra.
 bool IsPolyhedron(const ModelElement& element)
 {
     return element.Type == TARVEX_ELEMENT_POLYHEDRON;
@@ -331,12 +341,16 @@ int32_t EditPoint(Situation& now)
     return STATUS_OK;
 }
 
+// Of profiles and images as well.
 int32_t GetPoints(Situation& now)
 {
-    now.Arrays = now.Element->Points;
-    now.Expected = IsPolyhedron(*now.Element) ? now.Element->Values
-                                              : Numbers{now.Element->Mode != 0 ? 1.0 : 0.0};
-    return now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT : STATUS_OK;
+    const ModelElement& element = *now.Element;
+    now.Arrays = element.Points;
+    now.Expected = element.Type == TARVEX_ELEMENT_POLYGON ? Numbers{element.Mode != 0 ? 1.0 : 0.0}
+                                                          : element.Values;
+    return element.Empty                    ? STATUS_NOT_READY
+           : now.Made.NullArray != SIZE_MAX ? STATUS_NULL_ARGUMENT
+                                            : STATUS_OK;
 }
 
 // Axis or height of a polyhedron alone; what is not given stays, and an invalid one takes all.
@@ -368,7 +382,6 @@ void TellPolygons(Rules& rules, const std::string& type)
     };
     rules["Element_" + type + "_SetValue"] = [](auto& now)
     { return StorePoints(now, *now.Element, false); };
-    rules["Element_" + type + "_GetValue"] = GetPoints;
     rules["Element_" + type + "_GetPointCount"] =
         Gives([](auto& now) { return now.Element->CountPoints(); });
     for (const char* edit : {"_ChangePoint", "_InsertPoint", "_RemovePoint"})
@@ -416,6 +429,14 @@ void TellShapeRules(Rules& rules)
             return Numbers{plane[6], plane[3], plane[4], plane[5]};
         });
     rules["Element_Cylinder_SetValue2"] = SetCylinderByAxis;
+    rules["Element_Cylinder_GetValue2"] = Gives(
+        [](auto& now)
+        {
+            const Numbers& v = now.Element->Values;
+            Numbers all = IfNear({(v[0] + v[3]) / 2, (v[1] + v[4]) / 2, (v[2] + v[5]) / 2});
+            all.insert(all.end(), {v[7], v[8], v[9], v[6], v[10]});
+            return all;
+        });
     rules["Element2D_Line_SetValue"] = SetLine2D;
     rules.erase("Element_Line_GetValue");
     const auto isInvalid = [](auto& now) { return !now.Element->Valid; };
@@ -429,6 +450,8 @@ void TellShapeRules(Rules& rules)
         Unless(STATUS_TOO_SMALL, [](auto& now) { return IsFlat(now.Given, 0, 0.001); });
     rules["Element_Polyhedron_SetHeight"] = rules["Element_Polyhedron_SetAxisDirection"] =
         ChangeBody;
+    rules["Element_Polygon_GetValue"] = rules["Element_Polyhedron_GetValue"] =
+        rules["Element_ProfileUniform_GetValue"] = rules["Element_Image_GetValue"] = GetPoints;
     TellPolygons(rules, "Polygon");
     TellPolygons(rules, "Polyhedron");
 }

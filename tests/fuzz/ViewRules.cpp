@@ -21,7 +21,6 @@ int32_t Create(Situation& now)
     now.View->Id = now.All.NextView[onChart]++;
     now.View->OnChart = onChart;
     now.View->Usable = now.Given[0] < 3;
-    now.View->DrawSpace = {-50, 50, -50, 50, -50, 50};
     now.View->DrawSpace.resize(onChart ? 4 : 6);
     now.Expected = {static_cast<double>(now.View->Id)};
     return Resize(now);

@@ -163,11 +163,6 @@ void Collect(std::vector<Function>& functions, const char* name, int32_t (*funct
 }
 } // namespace
 
-bool Function::Has(Role role) const
-{
-    return std::ranges::find(Roles, role) != Roles.end();
-}
-
 std::vector<Role> Function::GetScalarRoles() const
 {
     std::vector<Role> roles;

@@ -41,7 +41,7 @@ struct Call;
 
 struct Function
 {
-    bool Has(Role role) const;
+    bool Has(Role role) const { return std::ranges::count(Roles, role) > 0; }
     bool TakesArrays() const { return std::ranges::any_of(Roles, IsInput); }
     std::vector<Role> GetScalarRoles() const; // of all that is no array
     bool IsFor(bool onChart, int32_t type) const
