@@ -208,11 +208,8 @@ std::string Call::Describe() const
         }
         text << '}';
     }
-    text << (NullArray == SIZE_MAX ? ")" : " null: " + std::to_string(NullArray) + ")");
-    if (Status != 0)
-    {
-        text << " = " << Status;
-    }
+    text << (NullArray == SIZE_MAX ? ")" : " null: " + std::to_string(NullArray) + ")")
+         << (Status == 0 ? "" : " = " + std::to_string(Status));
     for (const Numbers& output : Outputs)
     {
         text << ' ' << output.at(0);
