@@ -220,7 +220,8 @@ void Engine::Perform(Call& call)
     call.Perform();
     Tell("  = " + std::to_string(call.Status));
     Expectation expected;
-    Compare(call, Expected.Follow(call, expected), expected);
+    const int32_t status = Expected.Follow(call, expected);
+    Compare(call, status, std::move(expected));
     if (creates && call.Status == STATUS_OK)
     {
         ModelView& created = Expected.Views[call.Called->OnChart].back();
