@@ -53,11 +53,13 @@ struct Style
 const Function& ChooseFunction(uint8_t choice, const Style& style, uint8_t other)
 {
     static const auto adds = FindAll([](const Function& function) { return function.Adds; });
-    // What a mouse needs to do something.
-    static const auto gestures = FindAll(
-        [](const Function& function) {
+    // What a mouse needs to do something, and what matters once intensities are shown.
+    static const auto settings = FindAll(
+        [](const Function& function)
+        {
             return function.Has(Role::Callback) ||
-                   function.NameHas("_SetDrawMode", "_SetActiveElement");
+                   function.NameHas("_SetDrawMode", "_SetActiveElement", "_ShowIntensity",
+                                    "_ZScaling");
         });
     const std::vector<Function>& all = AllFunctions();
     // Views and elements would not live long otherwise.
@@ -65,7 +67,7 @@ const Function& ChooseFunction(uint8_t choice, const Style& style, uint8_t other
     {
         return all[choice];
     }
-    const auto& chosen = choice % 4 == 1 ? gestures : adds;
+    const auto& chosen = choice % 4 == 1 ? settings : adds;
     return *chosen[other % chosen.size()];
 }
 

@@ -68,10 +68,12 @@ public:
         std::ranges::sort(Files);
         const auto run = [this](Engine& engine)
         {
-            while (IsFile() || engine.CountCalls() < Calls)
+            long kept = 0;
+            while (IsFile() || engine.CountCalls() < kept + Calls)
             {
                 const bool good = Run(engine, Load(), IsFile());
                 At->Calls = engine.CountCalls();
+                kept = IsFile() ? At->Calls : kept;
                 if (!good)
                 {
                     return false;
