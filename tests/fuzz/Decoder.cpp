@@ -16,7 +16,7 @@ constexpr double wild[] = {NAN,   infinity, -infinity, DBL_MIN, DBL_MAX, -DBL_MA
                            4e9,   1e154,    -0.0,      1e-5,    3e-9,    9.3e18};
 constexpr double counts[] = {2, 3, 4, 5, 2, 3, 6, 1, 0, -1, 7, 16, 4, 3, 251, 65536};
 constexpr double integers[] = {0, 1, 2, 3, 4, 5, 6, 7, 0, 1, 2, 3, 8, -1, INT32_MAX, INT32_MIN};
-constexpr double scaling[] = {0, 10, 10.5, 11, 254, 255, 255.1, -0.1, 44.9, 45.1};
+constexpr double scaling[] = {0, 10, 10.5, 254.5, 255, 255.1, -0.1, 45.1};
 constexpr double sizes[] = {4, 5, 96, 8, 0, -1, 24, 4};
 constexpr double noIds[] = {-1, 1000, INT32_MAX, INT32_MIN};
 constexpr double elementTypes[] = {0, 1, 2, 3, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, -1};
@@ -175,12 +175,13 @@ void DrawArguments(ByteStream& bytes, Model& model, Call& call, const Style& sty
     call.NullArray = style.HasNull && arrays > 0 ? which % arrays : SIZE_MAX;
 }
 
-// Instead of what would let the model grow without end.
-void KeepSmall(Model& model, Call& call)
+// Instead of what would let the model grow without end, or finds nothing to act on.
+void Moderate(Model& model, Call& call)
 {
     const std::string kind = call.Called->OnChart ? "2D_" : "_";
     const std::vector<ModelView>& views = model.Views[call.Called->OnChart];
     const ModelView* const view = model.ViewOf(call);
+    const int32_t type = call.Called->ElementType;
     const auto isLong = [](const ModelElement& each) { return each.CountPoints() > mostPoints; };
     if (call.Called->EndsWith("_Create") && views.size() >= mostViews)
     {
@@ -194,6 +195,11 @@ void KeepSmall(Model& model, Call& call)
     else if (call.Called->Has(Role::View) && views.empty())
     {
         call = MakeCall("Tarvex_Window" + kind + "Create", {0, 1, 0, 0, 4, 4});
+    }
+    else if (view && call.Called->Has(Role::Element) && type >= 0 &&
+             std::ranges::count(view->Elements, type, &ModelElement::Type) == 0)
+    {
+        call = MakeGood(*FindAdd(view->OnChart, type), {static_cast<double>(view->Id)});
     }
 }
 } // namespace
@@ -218,6 +224,6 @@ bool DecodeStep(ByteStream& bytes, Model& model, Call& call, MouseMove& move)
     call = {};
     call.Called = &ChooseFunction(choice, style, other);
     DrawArguments(bytes, model, call, style);
-    KeepSmall(model, call);
+    Moderate(model, call);
     return true;
 }
