@@ -13,7 +13,6 @@
 #include <iterator>
 #include <memory>
 #include <random>
-#include <ranges>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -49,8 +48,12 @@ std::vector<Bytes> Split(const Bytes& bytes)
 
 Bytes Join(const std::vector<Bytes>& calls)
 {
-    const auto all = calls | std::views::join | std::views::common;
-    return {all.begin(), all.end()};
+    Bytes all;
+    for (const Bytes& call : calls)
+    {
+        all.insert(all.end(), call.begin(), call.end());
+    }
+    return all;
 }
 
 class Runner

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
-#include <ranges>
 
 namespace
 {
@@ -128,7 +127,8 @@ bool IsUsable(double value)
 
 bool AreUsable(const Numbers& values, ptrdiff_t from, ptrdiff_t count)
 {
-    return std::ranges::all_of(values | std::views::drop(from) | std::views::take(count), IsUsable);
+    const auto first = values.begin() + from;
+    return std::all_of(first, first + std::min(count, values.end() - first), IsUsable);
 }
 
 bool IsOutside(double value, double lowest, double highest)

@@ -411,8 +411,8 @@ void TellShapeRules(Rules& rules)
     for (const auto& [name, store] : shapes)
     {
         const std::string add = std::string(name).insert(name.find('_'), "_Add");
-        rules[add] = [store](auto& now) { return AddShape(now, store); };
-        rules[name + "_SetValue"] = [store](auto& now) { return ChangeShape(now, store); };
+        rules[add] = [store = store](auto& now) { return AddShape(now, store); };
+        rules[name + "_SetValue"] = [store = store](auto& now) { return ChangeShape(now, store); };
         rules[name + "_GetValue"] = Gives([](auto& now) { return now.Element->Values; });
     }
     rules["Element_Point_GetValue"] = Gives(
