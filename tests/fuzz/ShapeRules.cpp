@@ -184,7 +184,7 @@ int32_t AddShape(Situation& now, const Store& store)
     {
         return AddElement(now, std::move(element));
     }
-    const bool flat = std::abs(now.Given[2]) < 1e-6 && std::abs(now.Given[3]) < 1e-6;
+    const bool flat = !isCircle && std::abs(now.Given[2]) < 1e-6 && std::abs(now.Given[3]) < 1e-6;
     return isCircle                        ? STATUS_INVALID_VALUES
            : AreUsable(now.Given) && !flat ? STATUS_TOO_SMALL
                                            : STATUS_NOT_FINITE;
