@@ -8,7 +8,7 @@
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit 1
 
-readonly promises=(sanitizers fuzz libfuzzer arguments extremes memory cycles threads soak loss load
+readonly promises=(sanitizers fuzz libfuzzer arguments memory cycles threads soak loss load
   valgrind exports coverage static)
 readonly logs=build-stress
 # No cache of compiled shaders on the disk: each run is like the first.
@@ -65,7 +65,6 @@ try_libfuzzer() {
   figure libfuzzer "$(sed -n 's/^Done \([0-9]* runs in [0-9]* second(s)\)$/\1/p' "$logs/libfuzzer.runs"), 0 findings"
 }
 try_arguments() { dev tarvex_unit_tests 'Arguments.*'; }
-try_extremes() { dev tarvex_unit_tests 'Extremes.*'; }
 try_memory() { dev tarvex_memory_tests '*'; }
 try_cycles() { dev tarvex_unit_tests '*Cycles.*'; }
 try_threads() {

@@ -7,34 +7,25 @@
 #include <vtkCallbackCommand.h>
 #include <vtkNew.h>
 
-template <class View = CWindow, class Action>
-void Inside(int32_t windowId, Action&& action)
-{
-    CWindowManager::Instance->Call<View>(windowId,
-                                         [&](View& view) -> int32_t
-                                         {
-                                             action(view);
-                                             return STATUS_OK;
-                                         });
-}
-
 // For as long as it lives; a view that is not there is none to look into.
 template <class View = CWindow>
 View& ViewOf(int32_t windowId)
 {
     View* found = nullptr;
-    Inside<View>(windowId, [&](View& view) { found = &view; });
+    const auto find = [&](View& view) -> int32_t
+    {
+        found = &view;
+        return STATUS_OK;
+    };
+    CWindowManager::Instance->Call<View>(windowId, find);
     return *found;
 }
 
 template <class View = CWindow>
 NativeWindow NativeOf(int32_t windowId)
 {
-    NativeWindow native = 0;
-    Inside<View>(
-        windowId, [&](View& view)
-        { native = reinterpret_cast<NativeWindow>(view.GetRenderWindow()->GetGenericWindowId()); });
-    return native;
+    return reinterpret_cast<NativeWindow>(
+        ViewOf<View>(windowId).GetRenderWindow()->GetGenericWindowId());
 }
 
 class RenderCounter
