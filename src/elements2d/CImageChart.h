@@ -1,4 +1,5 @@
-// The chart of a view, with our plot for the image in the place of the stock one: plot 0.
+// The chart of a view, with axes of our own, and our plot for the image in the place of the stock
+// one: plot 0.
 #pragma once
 
 #include <vtkChartHistogram2D.h>

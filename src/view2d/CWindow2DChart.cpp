@@ -1,7 +1,7 @@
 // What a chart view shows of its elements, and in which colours.
+#include "elements2d/CChartAxis.h"
 #include "view2d/CWindow2D.h"
 
-#include <vtkAxis.h>
 #include <vtkChartHistogram2D.h>
 #include <vtkPen.h>
 #include <vtkTextProperty.h>
@@ -72,8 +72,7 @@ void CWindow2D::FitAxes(const double bounds[4], bool keepAspect)
             Low = Center - half;
             High = Center + half;
         }
-        // Values so far out that a double cannot hold their margins have no range.
-        bool IsUsable() const { return GetSpan() > 0.0; }
+        bool IsUsable() const { return CChartAxis::CanShow(Low, High); }
         void GiveTo(vtkAxis* axis) const
         {
             if (IsUsable())

@@ -39,8 +39,8 @@ long PeakKilobytes()
 bool IsExtreme(const Call& call)
 {
     // At the very last number a camera is lost until the next predefined view.
-    const double last = Effort(1e300, DBL_MAX / 2);
-    const auto isIt = [=](double number)
+    constexpr double last = DBL_MAX / 2;
+    const auto isIt = [](double number)
     {
         const double size = std::abs(number);
         return (size >= INT16_MAX && size <= last && number != TARVEX_INVALID_VALUE) ||

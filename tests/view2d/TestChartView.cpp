@@ -2,6 +2,8 @@
 #include "TarvexExt.h"
 #include "view2d/InsideChart.h"
 
+#include <vtkContextMouseEvent.h>
+
 namespace
 {
 class ChartViews : public InsideChart
@@ -40,6 +42,29 @@ TEST_F(ChartViews, FitTheirAxesToTheElements)
     EXPECT_EQ(Tarvex_Element2D_RemoveAll(Id), STATUS_OK);
     Add("Element2D_Add_Point", {3, 4});
     EXPECT_THAT(Fit(true), Near({2, 4, 3, 5}));
+}
+
+// There labels could not be told apart, nor would the wheel find back.
+TEST_F(ChartViews, StopZoomingWhereNumbersEnd)
+{
+    Add("Element2D_Add_Point", {100.3, -77.7});
+    const vtkContextMouseEvent wheel = {};
+    for (const int direction : {1, -1})
+    {
+        Fit(false);
+        Numbers last;
+        for (int turns = 0; last != Ranges() && turns < 5000; ++turns)
+        {
+            last = Ranges();
+            Chart()->MouseWheelEvent(wheel, direction);
+        }
+        EXPECT_EQ(Ranges(), last);
+        EXPECT_GT(last[1] - last[0], 1e-11);
+        EXPECT_LT(last[1] - last[0], 1e301);
+        Chart()->MouseWheelEvent(wheel, -direction);
+        EXPECT_NE(Ranges(), last);
+        Render();
+    }
 }
 
 TEST_F(ChartViews, HaveTwoLayoutsAndHoldTheirPictureBackUntilAnUpdateEnds)
