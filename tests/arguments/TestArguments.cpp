@@ -312,7 +312,8 @@ protected:
             {
                 Call call = probes[at];
                 call.FitInputs();
-                onView&& IsExtreme(call) ? Draw(call, type) : void();
+                const bool draws = onView && at / step % Effort(3, 1) == 0 && IsExtreme(call);
+                draws ? Draw(call, type) : void();
                 Target(call, type);
                 Check(call);
                 RemoveOthers(onChart);
