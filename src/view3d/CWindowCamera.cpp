@@ -5,6 +5,9 @@
 #include <vtkCamera.h>
 #include <vtkRenderer.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace
 {
 // Divides by the length; false for a vector that gives no direction.
@@ -28,6 +31,24 @@ constexpr PredefinedView predefinedViews[] = {
     {{0.0, 0.0, 100.0}, {0.0, 1.0, 0.0}},  {{0.0, -100.0, 0.0}, {0.0, 0.0, 1.0}},
     {{-100.0, 0.0, 0.0}, {0.0, 0.0, 1.0}}, {{0.0, 0.0, -100.0}, {0.0, 1.0, 0.0}},
     {{0.0, 100.0, 0.0}, {0.0, 0.0, 1.0}},  {{100.0, 0.0, 0.0}, {0.0, 0.0, 1.0}}};
+
+void LookFrom(const PredefinedView& view, vtkRenderer* renderer)
+{
+    vtkCamera* camera = renderer->GetActiveCamera();
+    camera->SetFocalPoint(0.0, 0.0, 0.0);
+    camera->SetPosition(view.Position.data());
+    camera->SetViewUp(view.Up.data());
+    renderer->ResetCamera();
+}
+
+// Not after numbers so large that nothing can be worked out from them.
+bool KnowsWhereItIs(vtkCamera* camera)
+{
+    const auto isFinite = [](const double* vector)
+    { return std::all_of(vector, vector + 3, [](double part) { return std::isfinite(part); }); };
+    return isFinite(camera->GetPosition()) && isFinite(camera->GetFocalPoint()) &&
+           isFinite(camera->GetViewUp()) && isFinite(camera->GetDirectionOfProjection());
+}
 } // namespace
 
 int32_t CWindow::ShowCamera()
@@ -43,6 +64,10 @@ int32_t CWindow::Camera_AutoSize()
         [&]() -> int32_t
         {
             Renderer->ResetCamera();
+            if (!KnowsWhereItIs(Renderer->GetActiveCamera()))
+            {
+                LookFrom(predefinedViews[TARVEX_VIEW_TOP], Renderer);
+            }
             RenderWindow->Render();
             return STATUS_OK;
         });
@@ -109,12 +134,7 @@ int32_t CWindow::Camera_SetPredefinedView(int32_t view)
             {
                 return STATUS_OUT_OF_RANGE;
             }
-            const PredefinedView& chosen = predefinedViews[view];
-            vtkCamera* camera = Renderer->GetActiveCamera();
-            camera->SetFocalPoint(0.0, 0.0, 0.0);
-            camera->SetPosition(chosen.Position.data());
-            camera->SetViewUp(chosen.Up.data());
-            Renderer->ResetCamera();
+            LookFrom(predefinedViews[view], Renderer);
             RenderWindow->Render();
             return STATUS_OK;
         });

@@ -43,6 +43,20 @@ TEST_F(Camera, FramesTheSceneInAPredefinedViewAndWithAutoSize)
     EXPECT_NEAR(Get()[3], 0.6, 1e-9) << "turned";
 }
 
+TEST_F(Camera, FindsBackFromWhereThereAreNoNumbers)
+{
+    AddPoint(30, 40, 0, 10);
+    for (const double nowhere : {Infinity, NaN})
+    {
+        Do("Window_Camera_SetViewDirection", {nowhere, 0, 1, 0, 1, 0});
+        EXPECT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
+        EXPECT_GT(CountLit(), Pixels * Pixels / 10);
+        Do("Window_Camera_SetPosition", {nowhere, 0, 0});
+        EXPECT_EQ(Tarvex_Window_Camera_AutoSize(Id), STATUS_OK);
+        EXPECT_GT(CountLit(), Pixels * Pixels / 10);
+    }
+}
+
 TEST_F(Camera, TurnsAroundItsFocalPointAndStraightensALeaningUpVector)
 {
     const Numbers along = {-95, 6, 0, 1, 0, 0, 0, 0, 1};
