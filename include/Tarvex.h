@@ -420,7 +420,10 @@ TARVEX_API int32_t Tarvex_Window_SetDrawMode(int32_t windowId, uint32_t mode);
  * @{
  */
 
-/** Moves the camera along its direction of view until everything visible fits. Renders. */
+/**
+ * Moves the camera along its direction of view until everything visible fits; looks from above if
+ * an infinite position or direction has left it without one. Renders.
+ */
 TARVEX_API int32_t Tarvex_Window_Camera_AutoSize(int32_t windowId);
 
 /** Switches between parallel projection (not 0) and perspective (0). Renders. */
