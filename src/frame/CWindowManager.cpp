@@ -30,27 +30,24 @@ int32_t CWindowManager::DeleteAll()
 
 int32_t CWindowManager::ProcessEvents()
 {
-    int32_t status = STATUS_OK;
-    const auto step = [&](const std::function<void()>& action)
-    {
-        // One step at a time: calls on other threads come in between.
-        const int32_t result = Locked(
-            [&]() -> int32_t
-            {
-                action();
-                return STATUS_OK;
-            });
-        if (result != STATUS_OK)
+    // All events in one turn of the lock. With a turn for each, busy threads that create views make
+    // more events in the meantime than are handled, and the pump falls ever further behind.
+    return Locked(
+        [&]() -> int32_t
         {
-            status = result;
-        }
-    };
-    std::string unused;
-    const int32_t pumped =
-        Guarded(unused,
-                [&]() -> int32_t
-                { return Platform::PumpEvents(step) ? STATUS_OK : STATUS_NO_NATIVE_WINDOW; });
-    return pumped == STATUS_OK ? status : pumped;
+            int32_t status = STATUS_OK;
+            const auto guard = [&](const std::function<void()>& action)
+            {
+                const int32_t result = Guarded(LastError,
+                                               [&]() -> int32_t
+                                               {
+                                                   action();
+                                                   return STATUS_OK;
+                                               });
+                status = result == STATUS_OK ? status : result;
+            };
+            return Platform::PumpEvents(guard) ? status : int32_t{STATUS_NO_NATIVE_WINDOW};
+        });
 }
 
 int32_t CWindowManager::GetEventDescriptor(int32_t* descriptor)

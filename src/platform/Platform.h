@@ -62,11 +62,12 @@ private:
     int CallDepth;
 };
 
-// One step of the event pump runs one action; the caller wraps it in lock and guard.
-using EventStep = std::function<void(const std::function<void()>& action)>;
+// Runs the handling of one event; the caller catches what it raises, so that the next one comes to
+// its turn.
+using EventGuard = std::function<void(const std::function<void()>& action)>;
 // Handles the events that wait at this moment, without waiting for more, then renders each view
-// that asked for it once. Called without the global lock. False: the window system was lost.
-bool PumpEvents(const EventStep& step);
+// that asked for it once. False: the window system was lost.
+bool PumpEvents(const EventGuard& guard);
 // Readable exactly when events wait. -1: no window system.
 int GetEventDescriptor();
 } // namespace Platform

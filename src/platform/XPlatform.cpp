@@ -217,46 +217,35 @@ int GetEventDescriptor()
     return connection ? ConnectionNumber(connection->Input) : -1;
 }
 
-bool PumpEvents(const EventStep& step)
+bool PumpEvents(const EventGuard& guard)
 {
-    std::vector<XEvent> events;
-    bool nested = false;
-    step(
-        [&]
-        {
-            nested = X11->Dispatching;
-            if (nested || !X11->Connection || X11->Connection->IsBroken())
-            {
-                return;
-            }
-            events = TakeEvents(X11->Connection->Input);
-            // First of all: no handler may touch a view whose window is gone.
-            for (const XEvent& event : events)
-            {
-                const auto view = X11->Views.find(event.xany.window);
-                if (event.type == DestroyNotify && view != X11->Views.end())
-                {
-                    view->second->MarkLost();
-                }
-            }
-        });
-    if (nested)
+    // Called by a callback out of an event: the outer pump goes on with the rest.
+    if (X11->Dispatching || !X11->Connection)
     {
-        // Called by a callback out of an event: the outer pump goes on with the rest.
         return true;
+    }
+    if (X11->Connection->IsBroken())
+    {
+        return false;
+    }
+    const std::vector<XEvent> events = TakeEvents(X11->Connection->Input);
+    // First of all: no handler may touch a view whose window is gone.
+    for (const XEvent& event : events)
+    {
+        const auto view = X11->Views.find(event.xany.window);
+        if (event.type == DestroyNotify && view != X11->Views.end())
+        {
+            view->second->MarkLost();
+        }
     }
     for (const XEvent& event : events)
     {
-        step([&event] { Dispatch(event); });
+        guard([&event] { Dispatch(event); });
     }
-    std::vector<Window> requests;
-    step([&requests] { requests = FindRenderRequests(); });
-    for (const Window native : requests)
+    for (const Window native : FindRenderRequests())
     {
-        step([native] { RenderView(native); });
+        guard([native] { RenderView(native); });
     }
-    bool connected = true;
-    step([&connected] { connected = !X11->Connection || !X11->Connection->IsBroken(); });
-    return connected;
+    return !X11->Connection->IsBroken();
 }
 } // namespace Platform

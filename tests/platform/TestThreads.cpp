@@ -40,7 +40,7 @@ public:
         { return std::any_of(Rounds.begin(), Rounds.end(), [](int count) { return count < 2; }); };
         const auto end =
             std::chrono::steady_clock::now() + std::chrono::milliseconds(Effort(400, 60000));
-        for (int round = 0; std::chrono::steady_clock::now() < end || round < 3 || isSlow();
+        for (int round = 0; std::chrono::steady_clock::now() < end || round < 20 || isSlow();
              ++round)
         {
             here();
