@@ -21,11 +21,18 @@ View& ViewOf(int32_t windowId)
     return *found;
 }
 
+// Like a call of the interface, under the lock and in its scope: also beside other threads.
 template <class View = CWindow>
 NativeWindow NativeOf(int32_t windowId)
 {
-    return reinterpret_cast<NativeWindow>(
-        ViewOf<View>(windowId).GetRenderWindow()->GetGenericWindowId());
+    NativeWindow native = 0;
+    const auto find = [&](View& view) -> int32_t
+    {
+        native = reinterpret_cast<NativeWindow>(view.GetRenderWindow()->GetGenericWindowId());
+        return STATUS_OK;
+    };
+    CWindowManager::Instance->Call<View>(windowId, find);
+    return native;
 }
 
 class RenderCounter
