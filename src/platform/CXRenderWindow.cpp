@@ -314,6 +314,13 @@ void CXRenderWindow::PutPicture()
     {
         Screen.Put(DisplayId, Native, WindowVisual, WindowDepth);
     }
+    // The software driver keeps what it sorted of a picture, some 30 MB, until it begins the next
+    // one: of the hidden window, which nobody sees.
+    vtkOpenGLState* state = GetState();
+    state->PushDrawFramebufferBinding();
+    state->vtkglBindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
+    state->vtkglClear(GL_COLOR_BUFFER_BIT);
+    state->PopDrawFramebufferBinding();
 }
 
 bool CXRenderWindow::ReleaseRenders()
