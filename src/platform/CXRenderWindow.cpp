@@ -290,17 +290,13 @@ void CXRenderWindow::End()
 
 void CXRenderWindow::Frame()
 {
-    if (!IsUsable())
-    {
-        return;
-    }
-    if (PutsPictures)
+    if (IsUsable() && PutsPictures)
     {
         MakeCurrent();
         vtkOpenGLRenderWindow::Frame(); // NOLINT(bugprone-parent-virtual-call): shows nothing yet
         PutPicture();
     }
-    else
+    else if (IsUsable())
     {
         Superclass::Frame();
     }
@@ -309,18 +305,12 @@ void CXRenderWindow::Frame()
 void CXRenderWindow::PutPicture()
 {
     const vtkRecti all(0, 0, Size[0], Size[1]);
-    if (ReadPixels(all, 1, GL_BGRA, GL_UNSIGNED_BYTE, Screen.Prepare(Size[0], Size[1]), 0) ==
-        VTK_OK)
+    uint8_t* pixels = Screen.Prepare(Size[0], Size[1]);
+    if (ReadPixels(all, 1, GL_BGRA, GL_UNSIGNED_BYTE, pixels, 0) == VTK_OK)
     {
         Screen.Put(DisplayId, Native, WindowVisual, WindowDepth);
     }
-    // The software driver keeps what it sorted of a picture, some 30 MB, until it begins the next
-    // one: of the hidden window, which nobody sees.
-    vtkOpenGLState* state = GetState();
-    state->PushDrawFramebufferBinding();
-    state->vtkglBindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
-    state->vtkglClear(GL_COLOR_BUFFER_BIT);
-    state->PopDrawFramebufferBinding();
+    BeginUnseenPicture(*GetState());
 }
 
 bool CXRenderWindow::ReleaseRenders()

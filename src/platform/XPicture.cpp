@@ -1,5 +1,8 @@
 #include "platform/XPicture.h"
 
+#include <vtkOpenGLState.h>
+#include <vtk_glew.h>
+
 #include <algorithm>
 
 namespace
@@ -14,6 +17,14 @@ void FlipRows(uint8_t* pixels, size_t rowBytes, size_t rows)
         uint8_t* upper = pixels + rowBytes * row;
         std::swap_ranges(upper, upper + rowBytes, pixels + rowBytes * (rows - 1 - row));
     }
+}
+
+void BeginUnseenPicture(vtkOpenGLState& state)
+{
+    state.PushDrawFramebufferBinding();
+    state.vtkglBindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
+    state.vtkglClear(GL_COLOR_BUFFER_BIT);
+    state.PopDrawFramebufferBinding();
 }
 
 bool XPicture::Suits(Display* display, const XVisualInfo& visual)
