@@ -13,7 +13,7 @@ class vtkOpenGLState;
 // Turns a picture between bottom row first, as OpenGL has it, and top row first.
 void FlipRows(uint8_t* pixels, size_t rowBytes, size_t rows);
 
-// The software driver keeps what it sorted of a picture, some 30 MB, until it begins the next one:
+// The software driver keeps what it sorted of a picture, up to 36 MB, until it begins the next one:
 // this is one of the context's window, which must be none that anybody sees.
 void BeginUnseenPicture(vtkOpenGLState& state);
 

@@ -38,7 +38,7 @@ long PeakKilobytes()
 // Has numbers that nobody measures.
 bool IsExtreme(const Call& call)
 {
-    // At the very last number a camera is lost until the next predefined view.
+    // At the very last number a camera is lost, as after an infinite one.
     constexpr double last = DBL_MAX / 2;
     const auto isIt = [](double number)
     {
